@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "Call.h"
+
+Library &Library::instance()
+{
+    static Library library;
+    return library;
+}
+
+void copyText(const std::string &text, char *buffer, size_t size)
+{
+    const size_t length = text.copy(buffer, size);
+    if (length < size)
+        buffer[length] = '\0';
+}
+
+VELT_ERROR Answer::note(VELT_ERROR result)
+{
+    if (m_result == VELT_SUCCESS)
+        m_result = result;
+    return m_result;
+}
+
+std::string Answer::text(TextValue value)
+{
+    std::string text;
+    note(m_modem.read(value, text));
+    return text;
+}
+
+VELT_ERROR Answer::giveText(char *buffer, size_t size, const std::string &text)
+{
+    if (!buffer)
+        note(VELT_ERROR_BAD_ARGUMENT);
+    if (m_result == VELT_SUCCESS)
+        copyText(text, buffer, size);
+    return m_result;
+}
+
+std::string Call::describe(int32_t number)
+{
+    return std::to_string(number);
+}
+
+std::string Call::describe(const char *text)
+{
+    return text ? '"' + std::string(text) + '"' : "null";
+}
+
+std::string Call::describe(VELT_DEVICE_CALLBACK callback)
+{
+    return callback ? "callback" : "null";
+}
+
+void Call::record(const std::vector<std::string> &inputs) const
+{
+    std::string arguments;
+    for (const std::string &input : inputs)
+        arguments += (arguments.empty() ? "" : ", ") + input;
+    Library &library = Library::instance();
+    std::lock_guard<std::mutex> lock(library.mutex);
+    library.record.push_back({m_function, arguments});
+}
+
+std::shared_ptr<Modem> Call::pluggedModem()
+{
+    Library &library = Library::instance();
+    std::lock_guard<std::mutex> lock(library.mutex);
+    return library.plugged ? library.modem : nullptr;
+}
+
+SetResult Call::setResult() const
+{
+    Library &library = Library::instance();
+    std::lock_guard<std::mutex> lock(library.mutex);
+    if (!library.results.empty()) {
+        for (const char *name : {m_function, "*"}) {
+            const auto found = library.results.find(name);
+            if (found != library.results.end())
+                return found->second;
+        }
+    }
+    return {VELT_SUCCESS, ModemControl::FillOutputs};
+}
+
+VELT_ERROR answerText(const char *function, TextValue value, char *buffer, size_t size)
+{
+    return Call(function).answer(
+        [=](Answer &answer) { return answer.giveText(buffer, size, answer.text(value)); });
+}

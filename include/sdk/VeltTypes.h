@@ -11,8 +11,8 @@
 /// - All memory belongs to the caller. Out-parameters must not be null.
 /// - Texts are single-byte (Latin-1) and end at the first zero byte. A text that fills its buffer
 /// or
-///   field has no zero byte, so a caller that needs one must add room for it. Text buffers have the
-///   sizes given by the VELT_SIZE_ constants; the functions cannot check them.
+///   field has none, so a caller that needs it must add room for it. Text buffers have the sizes
+///   given by the VELT_SIZE_ constants; the functions cannot check them.
 /// - Any thread may call any function, a callback included.
 
 #ifndef VELTTYPES_H

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "core/Change.h"
+#include "HostCore.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+struct Language
+{
+    QTranslator host;
+    QTranslator toolkit;
+};
+
+std::unique_ptr<Language> s_language;
+
+const QTranslator &english()
+{
+    static QTranslator translator;
+    static const bool loaded = translator.load(QStringLiteral(":/diagnosis-host/english.qm"));
+    Q_ASSERT(loaded);
+    Q_UNUSED(loaded)
+    return translator;
+}
+
+QString toolkitTranslations()
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#else
+    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#endif
+}
+
+} // namespace
+
+QString Change::tr(const QString &key, const QString &context)
+{
+    // Not through the application: it gives an unknown key back as its own text.
+    const QByteArray source = key.toUtf8();
+    const QByteArray where = context.toUtf8();
+    const QString text =
+        s_language ? s_language->host.translate(where.constData(), source.constData()) : QString();
+    return text.isEmpty() ? english().translate(where.constData(), source.constData()) : text;
+}
+
+bool HostCore::setLanguage(const QString &folder, const QString &language)
+{
+    if (!languages(folder).contains(language))
+        return false;
+    auto loaded = std::make_unique<Language>();
+    if (!loaded->host.load(QStringLiteral("%1/host_%2.qm").arg(folder, language)))
+        return false;
+    QCoreApplication::installTranslator(&loaded->host);
+    if (loaded->toolkit.load(QStringLiteral("qtbase_%1").arg(language), toolkitTranslations()))
+        QCoreApplication::installTranslator(&loaded->toolkit);
+    s_language = std::move(loaded);
+    return true;
+}
+
+QStringList HostCore::languages(const QString &folder)
+{
+    QStringList names =
+        QDir(folder).entryList({QStringLiteral("host_*.qm")}, QDir::Files, QDir::Name);
+    for (QString &name : names)
+        name = name.mid(5, name.size() - 8);
+    return names;
+}

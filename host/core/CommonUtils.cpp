@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "core/CommonUtils.h"
+#include "HostCore.h"
+#include "core/Change.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+
+namespace {
+
+QString s_pluginLibraryPath;
+QString s_settingsFile;
+
+/// A message box that can always be closed, and where closing it presses no button.
+class MessageBox : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void closeEvent(QCloseEvent *event) override { QDialog::closeEvent(event); }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->matches(QKeySequence::Cancel))
+            reject();
+        else
+            QMessageBox::keyPressEvent(event);
+    }
+};
+
+QString buttonText(const QString &text)
+{
+    return text.startsWith(QLatin1String("IDS_"))
+               ? Change::tr(text, QStringLiteral("DiagnosisPlugin"))
+               : text;
+}
+
+} // namespace
+
+void HostCore::setPluginLibraryPath(const QString &path)
+{
+    s_pluginLibraryPath = path;
+}
+
+void HostCore::setSettingsFile(const QString &fileName)
+{
+    s_settingsFile = fileName;
+}
+
+QString CommonUtils::GetPluginLibraryPath()
+{
+    return s_pluginLibraryPath;
+}
+
+QString CommonUtils::GetSettings(const QString &group, const QString &key)
+{
+    if (s_settingsFile.isNull())
+        return QString();
+    const QSettings settings(s_settingsFile, QSettings::IniFormat);
+    // A text with commas is read as a list.
+    return settings.value(group + QLatin1Char('/') + key).toStringList().join(QLatin1String(", "));
+}
+
+int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString caption, QString text,
+                             QString button1, QString button2, QString button3, bool modal,
+                             Qt::WindowFlags flags, QDialog **box, QString details, bool centre)
+{
+    const Qt::WindowFlags dialogFlags =
+        Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | flags;
+    const QPointer<QMessageBox> messageBox(
+        new MessageBox(icon, caption, text, QMessageBox::NoButton, parent, dialogFlags));
+    messageBox->setObjectName(QStringLiteral("CommonUtils_messageBox"));
+    messageBox->setTextFormat(Qt::PlainText);
+    messageBox->setDetailedText(details);
+    messageBox->setWindowModality(modal ? Qt::WindowModal : Qt::NonModal);
+    QList<QAbstractButton *> buttons;
+    for (const QString &button : {button1, button2, button3})
+        buttons.append(button.isEmpty()
+                           ? nullptr
+                           : messageBox->addButton(buttonText(button), QMessageBox::AcceptRole));
+
+    QEventLoop loop;
+    QObject::connect(messageBox, &QDialog::finished, &loop, &QEventLoop::quit);
+    QObject::connect(messageBox, &QObject::destroyed, &loop, [&loop, box] {
+        // Here and not after the loop: *box may belong to the parent, and be gone with it.
+        if (box)
+            *box = nullptr;
+        loop.quit();
+    });
+    if (box)
+        *box = messageBox;
+    messageBox->show();
+    if (centre)
+        MoveCentre(messageBox);
+    loop.exec(QEventLoop::DialogExec);
+
+    if (!messageBox)
+        return 0;
+    QAbstractButton *const pressed = messageBox->clickedButton();
+    const int number = pressed ? buttons.indexOf(pressed) + 1 : 0;
+    delete messageBox;
+    return number;
+}
+
+void CommonUtils::MoveCentre(QDialog *dialog)
+{
+    const QWidget *const parent =
+        dialog->parentWidget() ? dialog->parentWidget()->window() : nullptr;
+    const QRect screen = (parent ? parent : dialog)->screen()->availableGeometry();
+    QRect frame = dialog->frameGeometry();
+    frame.moveCenter(parent ? parent->frameGeometry().center() : screen.center());
+    // The upper left corner wins where the dialog is larger than the screen.
+    frame.moveLeft(qMax(screen.left(), qMin(frame.left(), screen.right() + 1 - frame.width())));
+    frame.moveTop(qMax(screen.top(), qMin(frame.top(), screen.bottom() + 1 - frame.height())));
+    dialog->move(frame.topLeft());
+}
+
+void CommonUtils::GetApplicationStringHeightAndWidth(const QString &text, int &height, int &width)
+{
+    const QFontMetrics metrics(QApplication::font());
+    height = metrics.horizontalAdvance(text);
+    width = metrics.height();
+}

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "core/ExtendDialog.h"
+
+#include <QCloseEvent>
+#include <QPointer>
+#include <QVBoxLayout>
+
+ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int /*widgetType*/)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | flags),
+      m_layout(new QVBoxLayout(this)), m_content(nullptr), m_ended(false)
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+}
+
+ExtendDialog::~ExtendDialog()
+{
+    end();
+}
+
+void ExtendDialog::AddMainWidget(QWidget *widget)
+{
+    if (!widget || m_layout->indexOf(widget) >= 0)
+        return;
+    // The layout no longer knows a content that others have deleted meanwhile.
+    if (m_content && m_layout->indexOf(m_content) >= 0)
+        delete m_content;
+    m_content = widget;
+    m_layout->addWidget(widget);
+}
+
+void ExtendDialog::setWindowTitle(const QString &title)
+{
+    QDialog::setWindowTitle(title);
+}
+
+void ExtendDialog::changeSize(const QSize &size)
+{
+    setFixedSize(size);
+}
+
+void ExtendDialog::done(int result)
+{
+    const QPointer<ExtendDialog> alive(this);
+    QDialog::done(result);
+    if (alive)
+        end();
+}
+
+// A visible dialog comes to done() from here; one that was never shown does not.
+void ExtendDialog::closeEvent(QCloseEvent *event)
+{
+    const QPointer<ExtendDialog> alive(this);
+    QDialog::closeEvent(event);
+    if (alive && event->isAccepted())
+        end();
+}
+
+// Nothing may follow the signal: a slot may have deleted the dialog.
+void ExtendDialog::end()
+{
+    if (m_ended)
+        return;
+    m_ended = true;
+    Q_EMIT dlgCloseEvent();
+}

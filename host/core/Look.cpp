@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "HostCore.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QProxyStyle>
+
+namespace {
+
+/// Fusion with the margins and spacings that plug-in windows of a fixed size are made for.
+class HostStyle : public QProxyStyle
+{
+public:
+    HostStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        switch (metric) {
+        case PM_LayoutLeftMargin:
+        case PM_LayoutTopMargin:
+        case PM_LayoutRightMargin:
+        case PM_LayoutBottomMargin:
+            return 5;
+        case PM_LayoutHorizontalSpacing:
+        case PM_LayoutVerticalSpacing:
+            return 6;
+        default:
+            return QProxyStyle::pixelMetric(metric, option, widget);
+        }
+    }
+};
+
+} // namespace
+
+void HostCore::applyLook(QApplication &application)
+{
+    QFont font(QStringLiteral("DejaVu Sans"));
+    font.setStyleHint(QFont::SansSerif);
+    // In pixels, as the windows' fixed sizes are.
+    font.setPixelSize(12);
+    application.setFont(font);
+    application.setStyle(new HostStyle);
+}

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "core/Startup.h"
+#include "HostCore.h"
+
+namespace {
+
+PluginContainer *s_container = nullptr;
+
+} // namespace
+
+PluginContainer *Startup::GetPluginContainer()
+{
+    return s_container;
+}
+
+void HostCore::setPluginContainer(PluginContainer *container)
+{
+    s_container = container;
+}
+
+void HostCore::PluginRegister::add(const QString &classIdentifier, int pluginType, QObject *plugin)
+{
+    m_entries.prepend({classIdentifier, pluginType, plugin});
+}
+
+void HostCore::PluginRegister::remove(QObject *plugin)
+{
+    for (Entry &entry : m_entries) {
+        if (entry.plugin == plugin)
+            entry.plugin.clear();
+    }
+}
+
+QObject *HostCore::PluginRegister::GetPlugin(const QString &classIdentifier, int pluginType)
+{
+    for (const Entry &entry : qAsConst(m_entries)) {
+        if (entry.plugin && entry.pluginType == pluginType &&
+            entry.classIdentifier == classIdentifier)
+            return entry.plugin;
+    }
+    return nullptr;
+}

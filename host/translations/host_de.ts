@@ -1,0 +1,356 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors -->
+<!-- SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>DiagnosisPlugin</name>
+    <message>
+        <source>IDS_PLUGIN_NAME</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SAVE_PROMPT</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_REFRESH_PROMPT</source>
+        <translation>&amp;Aktualisieren</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_CANCEL_PROMPT</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_CAPTION</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORTSUCCESS_PROMPT</source>
+        <translation>Die Diagnose wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORTFAILURE_PROMPT</source>
+        <translation>Die Diagnose konnte nicht gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_UNKNOWN</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_DEVICE</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_NETWORK_SETTINGS</source>
+        <translation>Netzeinstellungen</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_NETWORK_STATUS</source>
+        <translation>Netzstatus</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_SIM</source>
+        <translation>SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_DEVICE_NAME</source>
+        <translation>Gerätename</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_APPLICATION_PORT</source>
+        <translation>Anwendungsport</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SERIAL_NUMBER</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_HARDWARE_VERSION</source>
+        <translation>Hardwareversion</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_FIRMWARE_VERSION</source>
+        <translation>Firmwareversion</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SOFTWARE_VERSION</source>
+        <translation>Softwareversion</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SELECTION_MODE</source>
+        <translation>Netzauswahl</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_NETWORK_NAME</source>
+        <translation>Netzname</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_NETWORK_TYPE</source>
+        <translation>Netztyp</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIGNAL_STRENGTH</source>
+        <translation>Signalstärke</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSSI</source>
+        <translation>RSSI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSQUAL</source>
+        <translation>RSQUAL (BER)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSCP</source>
+        <translation>RSCP</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ECIO</source>
+        <translation>Ec/Io</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ECNO</source>
+        <translation>Ec/No</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_CELL_ID</source>
+        <translation>Zell-ID</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_LAC</source>
+        <translation>Aufenthaltsbereich (LAC)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_CS_REGISTRATION</source>
+        <translation>CS-Registrierung</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PS_REGISTRATION</source>
+        <translation>PS-Registrierung</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PS_ATTACHMENT</source>
+        <translation>PS-Anbindung</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IP_ADDRESS</source>
+        <translation>IP-Adresse</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_DNS_SERVER</source>
+        <translation>DNS-Server</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_OWN_NUMBER</source>
+        <translation>Eigene Nummer (MSISDN)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIM_MESSAGES</source>
+        <translation>Nachrichten in SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIM_CONTACTS</source>
+        <translation>Kontakte in SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SMSC</source>
+        <translation>SMS-Zentrale (SMSC)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PIN_STATUS</source>
+        <translation>PIN-Status</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ICCID</source>
+        <translation>ICCID</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SIM_MESSAGE_CONTENT_PROMPT</source>
+        <translation>Nachrichten in SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SIM_CONTACT_CONTENT</source>
+        <translation>Kontakte in SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_NV_MESSAGE_CONTENT</source>
+        <translation>Nachrichten im Gerät</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_NV_CONTACT_CONTENT</source>
+        <translation>Kontakte im Gerät</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_FIRMWARE_VERSION</source>
+        <translation>Firmwareversion</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_HARDWARE_VERSION</source>
+        <translation>Hardwareversion</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_VOLTAGE</source>
+        <translation>Spannung</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PRL_VER</source>
+        <translation>PRL-Version</translation>
+    </message>
+    <message>
+        <source>IDS_NUM_CARRIERS_PROMPT</source>
+        <translation>Anzahl der Träger</translation>
+    </message>
+    <message>
+        <source>IDS_CARRIERS_NUM_NA</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_ESN</source>
+        <translation>ESN</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_PESN</source>
+        <translation>Pseudo-ESN</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_MEID</source>
+        <translation>MEID</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_AUTOMATIC</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_MANUAL</source>
+        <translation>Manuell</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_ATTACHED</source>
+        <translation>Angebunden</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_NOT_ATTACHED</source>
+        <translation>Nicht angebunden</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_NOT_REGISTERED</source>
+        <translation>Nicht registriert</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REGISTERED</source>
+        <translation>Registriert</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REGISTERING</source>
+        <translation>Registrierung läuft</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REG_DENIED</source>
+        <translation>Registrierung abgelehnt</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_ROAMING</source>
+        <translation>Roaming</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_NOT_INITIALIZED</source>
+        <translation>PIN nicht initialisiert</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_READY</source>
+        <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_REQUIRED</source>
+        <translation>PIN erforderlich</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PUK_REQUIRED</source>
+        <translation>PUK erforderlich</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_BLOCKED</source>
+        <translation>PIN gesperrt</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN2_REQUIRED</source>
+        <translation>PIN2 erforderlich</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PUK2_REQUIRED</source>
+        <translation>PUK2 erforderlich</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Diagnosis host</source>
+        <translation>Diagnosehost</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation>&amp;Diagnose</translation>
+    </message>
+    <message>
+        <source>&amp;Plug in</source>
+        <translation>&amp;Einstecken</translation>
+    </message>
+    <message>
+        <source>&amp;Unplug</source>
+        <translation>&amp;Abziehen</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation>Eingesteckt</translation>
+    </message>
+    <message>
+        <source>Unplugged</source>
+        <translation>Abgezogen</translation>
+    </message>
+    <message>
+        <source>The diagnostics window could not be opened.</source>
+        <translation>Das Diagnosefenster konnte nicht geöffnet werden.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,223 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "TestSupport.h"
+
+#include "HostCore.h"
+#include "ModemControl.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMutex>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <cctype>
+
+namespace {
+
+QMutex mutex;
+QStringList logLines;
+QStringList warnings;
+QtMessageHandler previousHandler = nullptr;
+
+/// Whether a text has the form of "hh:mm:ss:zzz".
+bool isTime(const QString &text)
+{
+    QString pattern = text;
+    for (QChar &character : pattern) {
+        if (character.isDigit())
+            character = QLatin1Char('9');
+    }
+    return pattern == QLatin1String("99:99:99:999");
+}
+
+void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    // The offscreen platform says so of itself, for windows with size constraints.
+    if (message == QLatin1String("This plugin does not support propagateSizeHints()"))
+        return;
+    QString line = message;
+    for (int at = 0; at + 12 <= line.size(); ++at) {
+        if (isTime(line.mid(at, 12))) {
+            line.replace(at, 12, QLatin1String("TIME"));
+            break;
+        }
+    }
+    QMutexLocker lock(&mutex);
+    (type == QtDebugMsg ? logLines : warnings).append(line);
+}
+
+QStringList take(QStringList &lines)
+{
+    QMutexLocker lock(&mutex);
+    const QStringList taken = lines;
+    lines.clear();
+    return taken;
+}
+
+QByteArray contentOf(const char *fileName)
+{
+    QFile file(QString::fromUtf8(fileName));
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", fileName);
+    return file.readAll();
+}
+
+} // namespace
+
+namespace TestSupport {
+
+LogCapture::LogCapture()
+{
+    take(logLines);
+    take(warnings);
+    previousHandler = qInstallMessageHandler(collect);
+}
+
+LogCapture::~LogCapture()
+{
+    qInstallMessageHandler(previousHandler);
+}
+
+QStringList LogCapture::takeLog()
+{
+    return take(logLines);
+}
+
+QStringList LogCapture::takeWarnings()
+{
+    return take(warnings);
+}
+
+void attachModem(const char *name)
+{
+    std::string error;
+    if (!ModemControl::attach(std::string(MODEM_DIR "/") + name + ".ini", &error))
+        qFatal("%s", error.c_str());
+}
+
+void setLanguage(const char *language)
+{
+    if (!HostCore::setLanguage(QLatin1String(TRANSLATION_DIR), QLatin1String(language)))
+        qFatal("no language %s", language);
+}
+
+QStringList takeCalls()
+{
+    QStringList calls;
+    for (const ModemControl::Call &call : ModemControl::recordedCalls())
+        calls.append(QString::fromStdString(call.function + "(" + call.arguments + ")"));
+    ModemControl::startRecording();
+    return calls;
+}
+
+ConfiguredHost::ConfiguredHost() : ConfiguredHost(contentOf(SHIPPED_CONFIG)) {}
+
+ConfiguredHost::ConfiguredHost(const QByteArray &configuration)
+{
+    QDir().mkpath(folder());
+    write("DiagnosisConfig.xml", configuration);
+    HostCore::setPluginLibraryPath(m_folder.path());
+    setLanguage("en");
+}
+
+ConfiguredHost::~ConfiguredHost()
+{
+    HostCore::setPluginLibraryPath(QString());
+    HostCore::setSettingsFile(QString());
+    HostCore::setPluginContainer(nullptr);
+    ModemControl::stopRecording();
+    ModemControl::detach();
+}
+
+void ConfiguredHost::write(const char *fileName, const QByteArray &content)
+{
+    QFile file(folder() + QLatin1String(fileName));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qFatal("cannot write %s", fileName);
+}
+
+QWidget *diagnosticsWindow()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        const auto *tabs =
+            window->findChild<QWidget *>(QLatin1String("DiagnosticsUIPlugin_tabWidgetDiag"));
+        if (window->isVisible() && tabs && tabs->window() == window)
+            return window;
+    }
+    return nullptr;
+}
+
+QStringList flatten(QWidget *window)
+{
+    QStringList rows;
+    const auto *tabs =
+        window->findChild<QTabWidget *>(QLatin1String("DiagnosticsUIPlugin_tabWidgetDiag"));
+    for (int index = 0; index < tabs->count(); ++index) {
+        rows.append(QLatin1Char('[') + tabs->tabText(index) + QLatin1Char(']'));
+        const auto *form = qobject_cast<QFormLayout *>(tabs->widget(index)->layout());
+        for (int row = 0; form && row < form->rowCount(); ++row) {
+            const auto *caption =
+                qobject_cast<QLabel *>(form->itemAt(row, QFormLayout::LabelRole)->widget());
+            const auto *value =
+                qobject_cast<QLabel *>(form->itemAt(row, QFormLayout::FieldRole)->widget());
+            rows.append(caption->text() + QLatin1String(" = ") + value->text());
+        }
+    }
+    return rows;
+}
+
+void keepActual(const char *name, const QStringList &lines)
+{
+    QFile actual(QLatin1String(name) + QLatin1String(".actual"));
+    if (actual.open(QIODevice::WriteOnly))
+        actual.write(lines.join(QLatin1Char('\n')).toUtf8());
+}
+
+void answer(QFileDialog *dialog, const QString &path)
+{
+    dialog->findChild<QLineEdit *>()->setText(path);
+    static_cast<QDialog *>(dialog)->done(QDialog::Accepted); // past the question to overwrite
+}
+
+MessageBoxes save(QPushButton *button, const QString &path)
+{
+    MessageBoxes boxes;
+    QTimer answers; // runs in the event loops that the dialogs block in
+    QObject::connect(&answers, &QTimer::timeout, [&boxes, &path] {
+        QWidget *const dialog = QApplication::activeModalWidget();
+        if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
+            boxes.shown.append(box->windowTitle() + QLatin1Char('|') + box->text());
+            box->buttons().at(0)->click();
+        } else if (auto *question = qobject_cast<QFileDialog *>(dialog)) {
+            if (path.isNull()) {
+                question->reject();
+                return;
+            }
+            answer(question, path);
+        }
+    });
+    answers.start(10);
+    button->click();
+    return boxes;
+}
+
+void settle()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace TestSupport

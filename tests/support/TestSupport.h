@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef TESTSUPPORT_H
+#define TESTSUPPORT_H
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+class QFileDialog;
+class QPushButton;
+class QWidget;
+
+/// What the tests of the plug-in share: the log, the modem, the configuration, the window as text.
+namespace TestSupport {
+
+/// Takes the toolkit's messages while it lives. Debug lines are the plug-in's log; their time
+/// field, if well-formed, reads "TIME". All other messages are warnings.
+class LogCapture
+{
+public:
+    LogCapture();
+    ~LogCapture();
+
+    /// The lines since the last call.
+    QStringList takeLog();
+    QStringList takeWarnings();
+};
+
+/// Attaches a modem of host/modems with all its results answering, plugged in.
+void attachModem(const char *name);
+
+/// Puts the host into a language of host/translations.
+void setLanguage(const char *language);
+
+/// The SDK calls recorded since the last startRecording(), "function(arguments)"; the record goes
+/// on anew.
+QStringList takeCalls();
+
+/// An English host whose plug-in folder is temporary and holds the given configuration.
+class ConfiguredHost
+{
+public:
+    /// With the shipped configuration.
+    ConfiguredHost();
+    explicit ConfiguredHost(const QByteArray &configuration);
+    ~ConfiguredHost();
+
+    QString folder() const { return m_folder.path() + QLatin1String("/plugins/DiagnosisPlugin/"); }
+    /// Writes a file into the plug-in's folder.
+    void write(const char *fileName, const QByteArray &content);
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// The open tabbed window, or null.
+QWidget *diagnosticsWindow();
+
+/// The window as text: "[title]" for each tab and "caption = value" for each of its rows; without
+/// visiting any tab.
+QStringList flatten(QWidget *window);
+
+/// Writes what a test got instead of a golden file's lines to "<name>.actual" in the current
+/// folder.
+void keepActual(const char *name, const QStringList &lines);
+
+/// What the user was told while a Save button worked.
+struct MessageBoxes
+{
+    QStringList shown; ///< "caption|text"
+};
+
+/// Answers an open file dialog with a path.
+void answer(QFileDialog *dialog, const QString &path);
+
+/// Presses a Save button, answers its file dialog with a path, or cancels it for a null one, and
+/// accepts all message boxes.
+MessageBoxes save(QPushButton *button, const QString &path);
+
+/// Runs the event loop until all posted events, deferred deletions included, are delivered.
+void settle();
+
+} // namespace TestSupport
+
+#endif

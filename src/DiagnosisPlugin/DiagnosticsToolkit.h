@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+/// All that differs between the versions of the toolkit that the plug-in compiles with: 4.8, 5
+/// and 6. No other file of the plug-in has a condition on the version.
+
+#ifndef DIAGNOSTICSTOOLKIT_H
+#define DIAGNOSTICSTOOLKIT_H
+
+#include <QTextStream>
+#include <QXmlStreamReader>
+#include <QtPlugin>
+
+#if QT_VERSION >= 0x060000
+#include <QStringConverter>
+#endif
+
+typedef QXmlStreamReader QCoreXmlStreamReader;
+
+// The export of the plug-in: in the class, and behind it in one source file. It must stand between
+// two of the toolkit's own macros, because the Qt 4 moc does not expand it and has to pass over it.
+#if QT_VERSION >= 0x050000
+#define DIAGNOSTICS_PLUGIN_METADATA Q_PLUGIN_METADATA(IID "com.velt.DiagnosisPlugin")
+#define DIAGNOSTICS_EXPORT_PLUGIN(name, className)                                                 \
+    extern "C" Q_DECL_EXPORT const char *qt_plugin_query_verification_data();                      \
+    const char *qt_plugin_query_verification_data()                                                \
+    {                                                                                              \
+        return "pattern=QT_PLUGIN_VERIFICATION_DATA\n"                                             \
+               "version=4.6.2\n"                                                                   \
+               "debug=false\n"                                                                     \
+               "buildkey=" DIAGNOSTICS_BUILD_KEY;                                                  \
+    }
+#else
+#define DIAGNOSTICS_PLUGIN_METADATA
+#define DIAGNOSTICS_EXPORT_PLUGIN(name, className) Q_EXPORT_PLUGIN2(name, className)
+#endif
+
+inline void setUtf8(QTextStream &stream)
+{
+#if QT_VERSION >= 0x060000
+    stream.setEncoding(QStringConverter::Utf8);
+#else
+    stream.setCodec("UTF-8");
+#endif
+}
+
+/// Ends the line and flushes the stream.
+inline QTextStream &endLine(QTextStream &stream)
+{
+#if QT_VERSION >= 0x050e00
+    return Qt::endl(stream);
+#else
+    return endl(stream);
+#endif
+}
+
+#endif

@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef DIAGNOSTICSUILOGIC_H
+#define DIAGNOSTICSUILOGIC_H
+
+#include <QObject>
+#include <QString>
+
+class DiagnosticsConfigParse;
+class IStatusBarUI;
+
+/// The query layer: the one object that knows the device SDK. It turns the device's events into
+/// signals and answers each query with display text.
+///
+/// A getter asks the device anew each time. It returns plain text, or a resource key ("IDS_...")
+/// that the caller translates; on any failure it returns its fallback, an empty text where nothing
+/// else is said, and the log tells why.
+///
+/// A counted singleton: each GetInstance() counts one reference, and only the Destroy() that finds
+/// the count at 0 deletes the object. Used on the GUI thread, but for OnDevEvents().
+class DiagnosticsUILogic : public QObject
+{
+    Q_OBJECT
+
+public:
+    static DiagnosticsUILogic *GetInstance();
+    static void Destroy();
+
+    /// The SDK's callback, on a thread of the SDK's own: 1 when the event was of use, else 0.
+    static int OnDevEvents(int event, void *data);
+
+    void RegisterWithDevice();
+    void UnRegisterDevice();
+
+    /// A raw RSSI reading, on the 0 to 31 scale of 3GPP TS 27.007, as text or resource key.
+    QString returnString(int rssi);
+    /// The resource key of a registration state, numbered as in +CREG.
+    void switchCase(int state, QString *text);
+
+    QString GetSoftwareVersion();
+    QString GetFirmwareVersion();
+    QString GetHardwareVersion();
+    QString GetIMEI();
+    QString GetSerialNumber();
+    QString GetApplicationPort();
+    QString GetDeviceName();
+    /// "WCDMA", "CDMA", "TD_SCDMA" or "UNKNOWN".
+    QString GetDeviceType();
+    QString GetEsn();
+    /// Whether the ESN is a pseudo-ESN, made from the MEID; false on failure.
+    bool IsPesn();
+    QString GetMeid();
+    QString GetPrlVersion();
+    QString GetVoltage();
+    QString GetMulticarrier();
+
+    /// Name and type of the network, as the host's status bar shows them.
+    QString GetNetworkName();
+    QString GetNetworkType();
+    /// "3G" on UTRAN, else "UNKNOWN".
+    QString getNetwork();
+    /// A resource key.
+    QString GetSelectionMode();
+    /// Resource keys.
+    QString GetCsRegister();
+    QString GetPsRegister();
+    QString GetPsAttachment();
+    /// In dBm, or the unknown key; the scale depends on the device type.
+    QString GetRSSI();
+    /// The raw RSSI and bit error rate class.
+    QString GetSignalStrength();
+    QString GetRSQUAL();
+    QString GetRSCP();
+    QString GetECIO();
+    QString GetECNO();
+    /// Both leave the device in the report mode that includes the location.
+    QString GetCellID();
+    QString GetLACCode();
+
+    /// "Roaming" or "Unknown", plain texts.
+    QString GetSimStatus();
+    /// A resource key.
+    QString GetPinStatus();
+    QString GetIMSINumber();
+    QString GetICCID();
+    QString GetOwnNumber();
+    QString GetSMSC();
+    /// Counts are "used / capacity".
+    QString GetContactCountinSim();
+    QString GetContactCountinDevice();
+    /// \a storage is one of VELT_SMS_STORAGE.
+    QString GetMessageCount(int storage);
+
+    /// Of the current connection profile, through the device name last read.
+    QString GetIPAddress();
+    QString GetDNSServer();
+    QString GetAPN();
+    QString getProfileName();
+    /// The host's status bar, or null. Not owned, and not to be kept.
+    IStatusBarUI *getStatusBarInstance();
+
+Q_SIGNALS:
+    void DeviceAvailable();
+    void DeviceUnavailable();
+
+private:
+    DiagnosticsUILogic();
+    ~DiagnosticsUILogic() override;
+    Q_DISABLE_COPY(DiagnosticsUILogic)
+
+    void loadConfigFile();
+
+    static DiagnosticsUILogic *_Instance;
+    static int m_iInstanceCount;
+
+    DiagnosticsConfigParse *m_pConfigParse;
+    QString m_strDeviceName; ///< the last answer of GetDeviceName()
+};
+
+#endif

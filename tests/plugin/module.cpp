@@ -1,0 +1,293 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+// The loadable module as a foreign host sees it: symbols, casts, virtual tables, life.
+
+#include "TestSupport.h"
+
+#include "HostCore.h"
+#include "ModemControl.h"
+#include "interfaces/INotify.h"
+#include "interfaces/IUIPlugin.h"
+
+#include <QLibrary>
+#include <QMetaMethod>
+#include <QPluginLoader>
+#include <QProcess>
+#include <QRect>
+#include <QWidget>
+#include <QtTest>
+
+#include <thread>
+
+using namespace TestSupport;
+
+namespace {
+
+/// Calls a virtual function by its slot, the two of the destructor counted. A result that is an
+/// object comes back as from a free function: the caller's place for it goes before the object.
+template <typename Result, typename... Arguments>
+Result callSlot(void *view, int slot, Arguments... arguments)
+{
+    void **table = *static_cast<void ***>(view);
+    return reinterpret_cast<Result (*)(void *, Arguments...)>(table[slot])(view, arguments...);
+}
+
+} // namespace
+
+class ModuleTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+
+    void exportedSymbols();
+    void verificationData();
+    void oneObject();
+    void casts();
+    void slotsOfTheTables();
+    void metaObject();
+    void eventsFromAnotherThread();
+    void loadAndUnload();
+    void unloadAfterTheWindowClosed();
+
+private:
+    QObject *instance()
+    {
+        auto entry = reinterpret_cast<QObject *(*)()>(m_library.resolve("qt_plugin_instance"));
+        return entry ? entry() : nullptr;
+    }
+
+    LogCapture *m_log = nullptr;
+    ConfiguredHost *m_host = nullptr;
+    QLibrary m_library{QLatin1String(MODULE_FILE)};
+};
+
+void ModuleTest::init()
+{
+    m_log = new LogCapture;
+    m_host = new ConfiguredHost;
+    attachModem("wcdma");
+    QVERIFY2(m_library.load(), qPrintable(m_library.errorString()));
+}
+
+void ModuleTest::cleanup()
+{
+    delete instance();
+    QVERIFY(m_library.unload());
+    delete m_host;
+    delete m_log;
+}
+
+void ModuleTest::exportedSymbols()
+{
+    QProcess nm;
+    nm.start(QLatin1String("nm"), {QLatin1String("-D"), QLatin1String("--defined-only"),
+                                   QLatin1String("-j"), QLatin1String(MODULE_FILE)});
+    QVERIFY(nm.waitForFinished());
+    QStringList symbols = QString::fromLatin1(nm.readAllStandardOutput())
+                              .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    symbols.sort();
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    const QString metadata = QLatin1String("qt_plugin_query_metadata");
+#else
+    const QString metadata = QLatin1String("qt_plugin_query_metadata_v2");
+#endif
+    QCOMPARE(symbols, QStringList({QLatin1String("qt_plugin_instance"), metadata,
+                                   QLatin1String("qt_plugin_query_verification_data")}));
+}
+
+void ModuleTest::verificationData()
+{
+    auto query =
+        reinterpret_cast<const char *(*)()>(m_library.resolve("qt_plugin_query_verification_data"));
+    QVERIFY(query);
+    const QList<QByteArray> lines = QByteArray(query()).split('\n');
+    QCOMPARE(lines.size(), 4);
+    QCOMPARE(lines.at(0), QByteArray("pattern=QT_PLUGIN_VERIFICATION_DATA"));
+    QCOMPARE(lines.at(1), QByteArray("version=4.6.2"));
+    QCOMPARE(lines.at(2), QByteArray("debug=false"));
+    QVERIFY2(lines.at(3).startsWith("buildkey=" + QSysInfo::buildCpuArchitecture().toLatin1()) &&
+                 lines.at(3).endsWith(" full-config"),
+             lines.at(3).constData());
+}
+
+void ModuleTest::oneObject()
+{
+    QPointer<QObject> first = instance();
+    QVERIFY(first);
+    QCOMPARE(instance(), first.data());
+    QVERIFY(!first->parent());
+    delete first;
+    QVERIFY(instance()); // a new one
+    QCOMPARE(m_log->takeLog(), QStringList());
+}
+
+void ModuleTest::casts()
+{
+    QObject *object = instance();
+    const char *plugin = static_cast<char *>(object->qt_metacast("IUIPlugin"));
+    const char *notify = static_cast<char *>(object->qt_metacast("INotify"));
+    QVERIFY(plugin && notify && plugin != notify);
+    QCOMPARE(object->qt_metacast("DiagnosticsUIPlugin"), static_cast<void *>(object));
+    QCOMPARE(static_cast<char *>(object->qt_metacast("com.velt.IBasePlugin")), plugin);
+    QCOMPARE(static_cast<char *>(object->qt_metacast("com.velt.IUIPlugin")), plugin);
+    QCOMPARE(static_cast<char *>(object->qt_metacast("com.velt.INotify")), notify);
+    QCOMPARE(object->qt_metacast("QObject"), static_cast<void *>(object));
+    QVERIFY(!object->qt_metacast("IBasePlugin"));
+    QVERIFY(!object->qt_metacast("com.velt.IStatusBarUI"));
+    QVERIFY(!object->qt_metacast(nullptr));
+    QCOMPARE(reinterpret_cast<const char *>(qobject_cast<IUIPlugin *>(object)), plugin);
+    QCOMPARE(reinterpret_cast<const char *>(qobject_cast<INotify *>(object)), notify);
+}
+
+void ModuleTest::slotsOfTheTables()
+{
+    QObject *object = instance();
+    void *plugin = object->qt_metacast("IUIPlugin");
+    const QString name = QLatin1String("DiagnosticsUIPlugin");
+
+    callSlot<void>(plugin, 2);                      // Release
+    QCOMPARE(callSlot<int>(plugin, 3), 0);          // GetLastError
+    QCOMPARE(callSlot<int>(plugin, 5), 0);          // GetPluginType
+    QVERIFY(callSlot<QString>(plugin, 6).isNull()); // GetCLSID
+    QCOMPARE(callSlot<int>(plugin, 7), 0);          // GetVersion
+    QCOMPARE(callSlot<QString>(plugin, 8), name);   // GetPluginName
+    QCOMPARE(callSlot<bool>(plugin, 9), false);     // IsAllowRelease
+    QObject untouched;
+    QObject *output = &untouched;
+    QCOMPARE((callSlot<int, int, QObject **>(plugin, 10, 4100, &output)), 0); // QueryInterface
+    QCOMPARE(output, &untouched);
+
+    QRect rect(1, 2, 3, 4);
+    // ShowWindow, which before Init shows nothing
+    QCOMPARE((callSlot<int, QWidget *, QRect *>(plugin, 11, nullptr, &rect)), 0);
+    QCOMPARE(callSlot<int>(plugin, 12), 0);     // DoModal
+    callSlot<void>(plugin, 13);                 // Hide
+    callSlot<void, QRect *>(plugin, 14, &rect); // FitSize
+    QCOMPARE(rect, QRect(1, 2, 3, 4));
+    QCOMPARE(callSlot<bool>(plugin, 15), false); // IsReady
+    const QString none;
+    const QString german = QLatin1String("de");
+    QCOMPARE((callSlot<bool, const QString *>(plugin, 16, &none)), false); // ChangeLang
+    QCOMPARE((callSlot<bool, const QString *>(plugin, 16, &german)), true);
+
+    void *notify = object->qt_metacast("INotify");
+    QCOMPARE((callSlot<int, unsigned, unsigned, unsigned>(notify, 2, 4100, 0, 0)), 0);
+    const QString at = QLatin1String("TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: ");
+    QCOMPARE(m_log->takeLog(), QStringList({at + QLatin1String("ShowWindow: called"),
+                                            at + QLatin1String("Notify: called")}));
+
+    QCOMPARE(callSlot<int>(plugin, 4), 1); // Init
+    QVERIFY(m_log->takeLog().contains(at + QLatin1String("Init: called")));
+    IDestroyEvent *destroy = qobject_cast<IBasePlugin *>(object);
+    callSlot<void>(destroy, 2); // OnDestroy
+    QVERIFY(m_log->takeLog().last().contains(QLatin1String("DestroyInstance")));
+
+    // The object's own table goes on behind QObject's in the order of the class.
+    const int own = 2 + 10;                      // two destructors and ten functions of QObject
+    QCOMPARE(callSlot<int>(object, own + 1), 0); // DoModal
+    QCOMPARE(callSlot<int>(object, own + 6), 0); // GetPluginType
+    QCOMPARE(callSlot<QString>(object, own + 9), name);                           // GetPluginName
+    QCOMPARE((callSlot<bool, const QString *>(object, own + 16, &german)), true); // ChangeLang
+}
+
+void ModuleTest::metaObject()
+{
+    QObject *object = instance();
+    const QMetaObject *meta = object->metaObject();
+    QCOMPARE(meta->className(), "DiagnosticsUIPlugin");
+    QCOMPARE(meta->superClass()->className(), "QObject");
+    QCOMPARE(meta->propertyCount(), meta->propertyOffset());
+    QStringList methods;
+    for (int index = meta->methodOffset(); index < meta->methodCount(); ++index) {
+        QCOMPARE(meta->method(index).methodType(), QMetaMethod::Slot);
+        QCOMPARE(meta->method(index).access(), QMetaMethod::Private);
+        methods.append(QString::fromLatin1(meta->method(index).methodSignature()));
+    }
+    QCOMPARE(methods.join(QLatin1Char(' ')),
+             QString::fromLatin1("onTabChange(int) onButtonCancelClicked() onButtonSaveClicked() "
+                                 "onButtonRefreshClicked() onDeviceAvailable() "
+                                 "onDeviceUnavailable() onDlgClose()"));
+    // The dispatcher takes its seven slots off the index and hands the rest back.
+    void *arguments[1] = {nullptr};
+    const int offset = meta->methodOffset();
+    QCOMPARE(object->qt_metacall(QMetaObject::InvokeMetaMethod, offset + 10, arguments), 3);
+    QCOMPARE(object->qt_metacall(QMetaObject::InvokeMetaMethod, offset + 4, arguments), -3);
+    QCOMPARE(m_log->takeLog().last().section(QLatin1String(": "), 2),
+             QString::fromLatin1("onDeviceAvailable: called"));
+}
+
+void ModuleTest::eventsFromAnotherThread()
+{
+    ModemControl::raiseEvent(6601); // before Init: nobody listens
+    QVERIFY(ModemControl::waitForEvents(10000));
+    settle();
+    auto *plugin = qobject_cast<IUIPlugin *>(instance());
+    QCOMPARE(plugin->Init(), 1);
+    m_log->takeLog();
+
+    std::thread other([] {
+        for (int round = 0; round < 50; ++round)
+            ModemControl::raiseEvent(round % 2 ? 6000 : 6601);
+    });
+    other.join();
+    QVERIFY(ModemControl::waitForEvents(10000));
+    const QStringList delivered = m_log->takeLog();
+    QCOMPARE(delivered.filter(QLatin1String("Dev Evenet(6601)")).size(), 25);
+    QCOMPARE(delivered.filter(QLatin1String("onDevice")).size(), 0); // only queued so far
+    settle();
+    const QStringList reached = m_log->takeLog().filter(QLatin1String("onDevice"));
+    QCOMPARE(reached.size(), 50);
+    QVERIFY(reached.at(0).contains(QLatin1String("onDeviceUnavailable")));
+    QVERIFY(reached.at(49).contains(QLatin1String("onDeviceAvailable")));
+
+    ModemControl::raiseEvent(6601);
+    plugin->OnDestroy(); // with an event on its way
+    settle();
+    m_log->takeLog();
+    ModemControl::raiseEvent(6601);
+    QVERIFY(ModemControl::waitForEvents(10000));
+    settle();
+    QCOMPARE(m_log->takeLog(), QStringList());
+}
+
+void ModuleTest::loadAndUnload()
+{
+    delete instance();
+    QVERIFY(m_library.unload());
+    for (int round = 0; round < 20; ++round) {
+        QPluginLoader loader{QLatin1String(MODULE_FILE)};
+        auto *plugin = qobject_cast<IUIPlugin *>(loader.instance());
+        QVERIFY(plugin);
+        QCOMPARE(plugin->Init(), 1);
+        if (round % 2)
+            plugin->OnDestroy();
+        ModemControl::raiseEvent(6000);
+        QVERIFY(loader.unload()); // deletes the object
+    }
+    QVERIFY(ModemControl::waitForEvents(10000));
+    QVERIFY(m_library.load());
+}
+
+void ModuleTest::unloadAfterTheWindowClosed()
+{
+    QWidget hostWindow;
+    auto *plugin = qobject_cast<IUIPlugin *>(instance());
+    QCOMPARE(plugin->Init(), 1);
+    QRect rect;
+    QCOMPARE(plugin->ShowWindow(&hostWindow, rect), 1);
+    QPointer<QWidget> window = diagnosticsWindow();
+    QVERIFY(window);
+    window->close();
+    delete instance(); // before the window's deferred deletion
+    QVERIFY(m_library.unload());
+    settle();
+    QVERIFY(!window);
+    QVERIFY(m_library.load());
+}
+
+QTEST_MAIN(ModuleTest)
+#include "module.moc"

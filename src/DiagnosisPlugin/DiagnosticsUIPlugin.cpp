@@ -3,6 +3,7 @@
 
 #include "DiagnosticsUIPlugin.h"
 
+#include "DiagnosticsCdmaUI.h"
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
@@ -162,9 +163,11 @@ int DiagnosticsUIPlugin::ShowWindow(QWidget *parent, QRect &)
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
         return 0;
-    if (m_pLogic->GetDeviceType() == QLatin1String("CDMA"))
-        return 0;
-    return createWcdmaDialog(parent);
+    if (m_pLogic->GetDeviceType() != QLatin1String("CDMA"))
+        return createWcdmaDialog(parent);
+    if (!m_pCdmaUI)
+        m_pCdmaUI = DiagnosticsCdmaUI::CreateInstance();
+    return m_pCdmaUI && m_pCdmaUI->ShowCdmaDiagWidget(parent) ? 1 : 0;
 }
 
 int DiagnosticsUIPlugin::Notify(unsigned int code, unsigned int, unsigned int)
@@ -174,6 +177,11 @@ int DiagnosticsUIPlugin::Notify(unsigned int code, unsigned int, unsigned int)
         return 0;
     if (m_pdialogDiagnostics)
         m_pdialogDiagnostics->close();
+    if (m_pCdmaUI && m_pCdmaUI->visible()) {
+        m_pCdmaUI->CloseCdmaDiagWidget();
+        DiagnosticsCdmaUI::DestroyInstance();
+        m_pCdmaUI = nullptr;
+    }
     return 0;
 }
 
@@ -192,6 +200,10 @@ void DiagnosticsUIPlugin::destroy()
     if (m_pConfigParse) {
         DiagnosticsConfigParse::DestroyInstance();
         m_pConfigParse = nullptr;
+    }
+    if (m_pCdmaUI) {
+        DiagnosticsCdmaUI::DestroyInstance();
+        m_pCdmaUI = nullptr;
     }
     delete[] m_pTabFilled;
     m_pTabFilled = nullptr;

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "DiagnosticsReader.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QFormLayout>
+#include <QFrame>
+#include <QLabel>
+#include <QTabWidget>
+
+namespace {
+
+const char pagePrefix[] = "DiagnosticsUIPlugin_";
+const char pageSuffix[] = "Tab";
+const char labelPrefix[] = "DiagnosticsUIPlugin_label";
+const char valueSuffix[] = "Value";
+
+QTabWidget *tabsOf(const QWidget *window)
+{
+    return window ? window->findChild<QTabWidget *>(
+                        QStringLiteral("DiagnosticsUIPlugin_tabWidgetDiag"))
+                  : nullptr;
+}
+
+QFrame *boxOf(const QWidget *window)
+{
+    return window ? window->findChild<QFrame *>(QStringLiteral("DiagnosticsUIPlugin_frameCdmaDiag"))
+                  : nullptr;
+}
+
+/// The configured name of a tab; null for a page that is none.
+QString tabName(const QWidget *page)
+{
+    const QString name = page->objectName();
+    const int prefix = int(sizeof pagePrefix) - 1;
+    const int suffix = int(sizeof pageSuffix) - 1;
+    if (!name.startsWith(QLatin1String(pagePrefix)) || !name.endsWith(QLatin1String(pageSuffix)) ||
+        name.size() < prefix + suffix)
+        return QString();
+    return name.mid(prefix, name.size() - prefix - suffix);
+}
+
+const QLabel *labelAt(const QFormLayout *form, int row, QFormLayout::ItemRole role)
+{
+    QLayoutItem *const item = form->itemAt(row, role);
+    return item ? qobject_cast<const QLabel *>(item->widget()) : nullptr;
+}
+
+QList<DiagnosticsRow> rowsOf(const QWidget *page)
+{
+    QList<DiagnosticsRow> rows;
+    const auto *const form = qobject_cast<const QFormLayout *>(page->layout());
+    for (int row = 0; form && row < form->rowCount(); ++row) {
+        const QLabel *const caption = labelAt(form, row, QFormLayout::LabelRole);
+        const QLabel *const value = labelAt(form, row, QFormLayout::FieldRole);
+        if (caption && value && caption->objectName().startsWith(QLatin1String(labelPrefix)) &&
+            value->objectName() == caption->objectName() + QLatin1String(valueSuffix))
+            rows.append({caption->text(), value->text()});
+    }
+    return rows;
+}
+
+} // namespace
+
+DiagnosticsReader::DiagnosticsReader()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        // The host's own window has the diagnostics window among its children too.
+        if (qobject_cast<QDialog *>(window) && window->isVisible() &&
+            (tabsOf(window) || boxOf(window)))
+            m_window = window;
+    }
+}
+
+QStringList DiagnosticsReader::tabNames() const
+{
+    QStringList names;
+    const QTabWidget *const tabs = tabsOf(m_window);
+    for (int index = 0; tabs && index < tabs->count(); ++index)
+        names.append(tabName(tabs->widget(index)));
+    return names;
+}
+
+bool DiagnosticsReader::selectTab(const QString &name) const
+{
+    const int index = tabNames().indexOf(name);
+    if (index < 0)
+        return false;
+    tabsOf(m_window)->setCurrentIndex(index);
+    return true;
+}
+
+QList<DiagnosticsPage> DiagnosticsReader::read() const
+{
+    QList<DiagnosticsPage> pages;
+    if (const QFrame *const box = boxOf(m_window))
+        pages.append({m_window->windowTitle(), rowsOf(box)});
+    if (QTabWidget *const tabs = tabsOf(m_window)) {
+        const int shown = tabs->currentIndex();
+        for (int index = 0; index < tabs->count(); ++index) {
+            tabs->setCurrentIndex(index);
+            pages.append({tabs->tabText(index), rowsOf(tabs->widget(index))});
+        }
+        tabs->setCurrentIndex(shown);
+    }
+    return pages;
+}
+
+QString DiagnosticsReader::text() const
+{
+    QStringList blocks;
+    const QList<DiagnosticsPage> pages = read();
+    for (const DiagnosticsPage &page : pages) {
+        QString block = page.title + QLatin1Char('\n');
+        for (const DiagnosticsRow &row : page.rows)
+            block += QStringLiteral("  %1: %2\n").arg(row.caption, row.value);
+        blocks.append(block);
+    }
+    return blocks.join(QLatin1Char('\n'));
+}

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef DIAGNOSTICSREADER_H
+#define DIAGNOSTICSREADER_H
+
+#include <QList>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+
+struct DiagnosticsRow
+{
+    QString caption;
+    QString value;
+};
+
+struct DiagnosticsPage
+{
+    QString title;
+    QList<DiagnosticsRow> rows;
+};
+
+/// Reads the open diagnostics window, which the host knows by the names of its objects only.
+class DiagnosticsReader
+{
+public:
+    /// Takes the visible diagnostics window.
+    DiagnosticsReader();
+
+    /// The window; null when none is open, or no longer.
+    QWidget *window() const { return m_window; }
+
+    /// The configured names of the tabs, in their order; none for the window of CDMA devices.
+    QStringList tabNames() const;
+
+    /// Shows the tab with this configured name; false when there is none.
+    bool selectTab(const QString &name) const;
+
+    /// All pages. Each tab is visited, which fills it, and the one shown now is shown again.
+    QList<DiagnosticsPage> read() const;
+
+    /// All pages as text: a line for each title, one for each row, an empty line between pages.
+    QString text() const;
+
+private:
+    QPointer<QWidget> m_window;
+};
+
+#endif

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "Log.h"
+
+#include <QFile>
+#include <QLoggingCategory>
+#include <QMutex>
+
+#include <cstdio>
+
+namespace {
+
+QFile s_file;
+/// Messages come from the threads of the SDK as well.
+QMutex s_mutex;
+
+void write(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    const QByteArray line = message.toLocal8Bit() + '\n';
+    const QMutexLocker lock(&s_mutex);
+    if (s_file.isOpen())
+        s_file.write(line);
+    const bool harmless = type == QtDebugMsg || type == QtInfoMsg;
+    if (!harmless && s_file.handle() != fileno(stderr))
+        std::fputs(line.constData(), stderr);
+}
+
+} // namespace
+
+void Log::install()
+{
+    qInstallMessageHandler(write);
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=false"));
+}
+
+bool Log::open(const QString &fileName)
+{
+    // Unbuffered, so that the last line before a crash is there.
+    if (fileName == QLatin1String("-")) {
+        if (!s_file.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return false;
+    } else {
+        s_file.setFileName(fileName);
+        if (!s_file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return false;
+    }
+    QLoggingCategory::setFilterRules(QStringLiteral("default.debug=true"));
+    return true;
+}

@@ -1,0 +1,48 @@
+# SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+# SPDX-License-Identifier: MIT
+
+# What ./run and ./test share. To be sourced from the top folder.
+
+# install_packages PACKAGE...: installs what is missing, on Debian and its relatives.
+install_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        as_root=(sudo)
+        command -v sudo >/dev/null || {
+            echo "Please install as root: apt-get install ${missing[*]}" >&2
+            exit 1
+        }
+    fi
+    echo "Installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -qq
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+build_packages=(
+    cmake
+    fonts-dejavu-core
+    g++
+    ninja-build
+    qtbase5-dev
+    qttools5-dev
+    qttools5-dev-tools
+)
+
+# build PRESET: configures once, then builds what has changed.
+build() {
+    if [ ! -f "build/$1/build.ninja" ]; then
+        cmake --preset "$1" >"configure.log" 2>&1 || {
+            cat configure.log >&2
+            exit 1
+        }
+        rm configure.log
+    fi
+    cmake --build --preset "$1"
+}

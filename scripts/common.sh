@@ -35,14 +35,16 @@ build_packages=(
     qttools5-dev-tools
 )
 
-# build PRESET: configures once, then builds what has changed.
+# build PRESET [TARGET...]: configures once, then builds what has changed.
 build() {
-    if [ ! -f "build/$1/build.ninja" ]; then
-        cmake --preset "$1" >"configure.log" 2>&1 || {
+    local preset=$1
+    shift
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >configure.log 2>&1 || {
             cat configure.log >&2
             exit 1
         }
         rm configure.log
     fi
-    cmake --build --preset "$1"
+    cmake --build --preset "$preset" ${@:+--target "$@"}
 }

@@ -17,6 +17,9 @@ QMutex s_mutex;
 
 void write(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
+    // The offscreen platform says so of itself, for every window of a fixed size.
+    if (message == QLatin1String("This plugin does not support propagateSizeHints()"))
+        return;
     const QByteArray line = message.toLocal8Bit() + '\n';
     const QMutexLocker lock(&s_mutex);
     if (s_file.isOpen())

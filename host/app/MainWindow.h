@@ -4,14 +4,11 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-#include <QWidget>
+#include "ModemWindow.h"
 
 class PluginLoader;
-class QLabel;
-class QPushButton;
 
-/// The host's window: the modem, the hand that plugs and unplugs it, and the way to the
-/// diagnostics.
+/// The host's window: the way to the diagnostics. The modem's window comes and goes with it.
 class MainWindow : public QWidget
 {
     Q_OBJECT
@@ -24,19 +21,13 @@ public:
     bool openDiagnostics();
 
 protected:
+    void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    void plug();
-    void unplug();
-    void showState();
-
     const PluginLoader &m_plugin;
-    QLabel *m_state;
+    ModemWindow m_modem;
     QLabel *m_message;
-    QPushButton *m_diagnostics;
-    QPushButton *m_plugIn;
-    QPushButton *m_unplug;
 };
 
 #endif

@@ -317,6 +317,13 @@
         <translation>&amp;Diagnose</translation>
     </message>
     <message>
+        <source>The diagnostics window could not be opened.</source>
+        <translation>Das Diagnosefenster konnte nicht geöffnet werden.</translation>
+    </message>
+</context>
+<context>
+    <name>ModemWindow</name>
+    <message>
         <source>&amp;Plug in</source>
         <translation>&amp;Einstecken</translation>
     </message>
@@ -347,10 +354,6 @@
     <message>
         <source>Unplugged</source>
         <translation>Abgezogen</translation>
-    </message>
-    <message>
-        <source>The diagnostics window could not be opened.</source>
-        <translation>Das Diagnosefenster konnte nicht geöffnet werden.</translation>
     </message>
 </context>
 </TS>

@@ -91,11 +91,20 @@ private Q_SLOTS:
         QVERIFY(loader.start());
         MainWindow window(QStringLiteral("wcdma"), loader);
         window.show();
+        QWidget *modem = nullptr;
+        for (QWidget *other : QApplication::topLevelWidgets()) {
+            if (other->inherits("ModemWindow"))
+                modem = other;
+        }
+        QVERIFY(modem && modem->isVisible() && modem->windowModality() == Qt::NonModal);
+        const auto partOf = [&](const char *name) {
+            return qstrncmp(name, "Main", 4) == 0 ? static_cast<QWidget *>(&window) : modem;
+        };
         const auto label = [&](const char *name) {
-            return window.findChild<QLabel *>(QLatin1String(name))->text();
+            return partOf(name)->findChild<QLabel *>(QLatin1String(name))->text();
         };
         const auto button = [&](const char *name) {
-            return window.findChild<QPushButton *>(QLatin1String(name));
+            return partOf(name)->findChild<QPushButton *>(QLatin1String(name));
         };
         button("MainWindow_pushButtonDiagnostics")->click();
         QCOMPARE(label("MainWindow_labelMessage"),
@@ -104,18 +113,19 @@ private Q_SLOTS:
         QVERIFY(window.openDiagnostics());
         QCOMPARE(label("MainWindow_labelMessage"), QString());
 
-        button("MainWindow_pushButtonUnplug")->click();
+        button("ModemWindow_pushButtonUnplug")->click();
         QVERIFY(!ModemControl::isPlugged());
-        QCOMPARE(label("MainWindow_labelState"), QStringLiteral("Unplugged"));
-        QVERIFY(!button("MainWindow_pushButtonUnplug")->isEnabled());
-        button("MainWindow_pushButtonPlugIn")->click();
+        QCOMPARE(label("ModemWindow_labelState"), QStringLiteral("Unplugged"));
+        QVERIFY(!button("ModemWindow_pushButtonUnplug")->isEnabled());
+        button("ModemWindow_pushButtonPlugIn")->click();
         QVERIFY(ModemControl::isPlugged());
-        QCOMPARE(label("MainWindow_labelState"), QStringLiteral("Plugged in"));
-        QVERIFY(!button("MainWindow_pushButtonPlugIn")->isEnabled());
+        QCOMPARE(label("ModemWindow_labelState"), QStringLiteral("Plugged in"));
+        QVERIFY(!button("ModemWindow_pushButtonPlugIn")->isEnabled());
 
         QCOMPARE(qApp->property("notified").toInt(), 0);
         window.close();
         QCOMPARE(qApp->property("notified").toInt(), 1);
+        QVERIFY(!modem->isVisible());
     }
 
     /// All answers of the host's plug-ins, found as other plug-ins find them; "-" for a failure.

@@ -57,7 +57,8 @@ private Q_SLOTS:
     {
         QVERIFY(HostCore::setLanguage(folder, QStringLiteral("de")));
         QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), QStringLiteral("Unbekannt"));
-        QCOMPARE(QCoreApplication::translate("MainWindow", "&Unplug"), QStringLiteral("&Abziehen"));
+        QCOMPARE(QCoreApplication::translate("ModemWindow", "&Unplug"),
+                 QStringLiteral("&Abziehen"));
         for (const char *wrong : {"xx", "", "../translations/host_en", "en.qm"})
             QVERIFY(!HostCore::setLanguage(folder, QLatin1String(wrong)));
         QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), QStringLiteral("Unbekannt"));

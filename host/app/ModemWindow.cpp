@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "ModemWindow.h"
+
+#include "ModemControl.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+ModemWindow::ModemWindow(const QString &modemName)
+    : m_state(new QLabel), m_plugIn(new QPushButton(tr("&Plug in"))),
+      m_unplug(new QPushButton(tr("&Unplug")))
+{
+    setWindowTitle(tr("Modem"));
+    // The program ends with the host's window, not with this one.
+    setAttribute(Qt::WA_QuitOnClose, false);
+    m_state->setObjectName(QStringLiteral("ModemWindow_labelState"));
+    m_plugIn->setObjectName(QStringLiteral("ModemWindow_pushButtonPlugIn"));
+    m_unplug->setObjectName(QStringLiteral("ModemWindow_pushButtonUnplug"));
+
+    const std::string description = ModemControl::value("modem/description");
+    auto *const descriptionLabel = new QLabel(QString::fromLatin1(description.c_str()));
+    descriptionLabel->setTextFormat(Qt::PlainText);
+    auto *const form = new QFormLayout;
+    form->addRow(tr("Name"), new QLabel(modemName));
+    form->addRow(tr("Description"), descriptionLabel);
+    form->addRow(tr("State"), m_state);
+
+    auto *const buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(m_plugIn);
+    buttons->addWidget(m_unplug);
+
+    auto *const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 12, 12, 12);
+    layout->setSpacing(12);
+    layout->addLayout(form);
+    layout->addStretch();
+    layout->addLayout(buttons);
+
+    connect(m_plugIn, &QPushButton::clicked, this, &ModemWindow::plug);
+    connect(m_unplug, &QPushButton::clicked, this, &ModemWindow::unplug);
+    showState();
+}
+
+void ModemWindow::plug()
+{
+    ModemControl::plug();
+    showState();
+    m_unplug->setFocus();
+}
+
+void ModemWindow::unplug()
+{
+    ModemControl::unplug();
+    showState();
+    m_plugIn->setFocus();
+}
+
+void ModemWindow::showState()
+{
+    const bool plugged = ModemControl::isPlugged();
+    m_state->setText(plugged ? tr("Plugged in") : tr("Unplugged"));
+    m_plugIn->setEnabled(!plugged);
+    m_unplug->setEnabled(plugged);
+}

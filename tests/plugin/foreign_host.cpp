@@ -3,10 +3,8 @@
 
 // The plug-in in a host that has no texts, and where memory runs out.
 
-#include "DiagnosticsConfigParse.h"
-#include "DiagnosticsUILogic.h"
 #include "DiagnosticsUIPlugin.h"
-#include "TestSupport.h"
+#include "PluginTest.h"
 
 #include "ModemControl.h"
 #include "core/Change.h"
@@ -54,7 +52,7 @@ void *operator new[](std::size_t size, const std::nothrow_t &) noexcept
     return mayAllocate() ? ::operator new[](size) : nullptr;
 }
 
-class ForeignHostTest : public QObject
+class ForeignHostTest : public PluginTest
 {
     Q_OBJECT
 
@@ -63,41 +61,25 @@ private Q_SLOTS:
     void cleanup();
     void noTexts();
     void captionInOtherLetters();
-    void memoryForTheWindow_data();
-    void memoryForTheWindow();
-    void memoryForTheSingletons_data();
+    void memory_data() { addRows(TEST_SOURCE_DIR "/foreign_host.txt", "memory"); }
+    void memory();
     void memoryForTheSingletons();
-
-private:
-    LogCapture *m_log = nullptr;
-    ConfiguredHost *m_host = nullptr;
-    DiagnosticsUIPlugin *m_plugin = nullptr;
 };
 
 void ForeignHostTest::init()
 {
     hasTexts = true;
-    m_log = new LogCapture;
-    m_host = new ConfiguredHost(
-        "<veltdoc><function><item name='SaveButton' value='true'/></function>"
-        "<tab name='Device' resourceID='IDS_D'><item name='IMEI' resourceID='IDS_I'/></tab>"
-        "<tab name='hidden' show='false'><item name='RSCP'/></tab>"
-        "<tab name='Other' resourceID='IDS_O'><item name='RSCP' resourceID='IDS_R'/></tab>"
-        "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
-    attachModem("wcdma");
-    m_plugin = new DiagnosticsUIPlugin;
+    setUp("<veltdoc><function><item name='SaveButton' value='true'/></function>"
+          "<tab name='Device' resourceID='IDS_D'><item name='IMEI' resourceID='IDS_I'/></tab>"
+          "<tab name='hidden' show='false'><item name='RSCP'/></tab>"
+          "<tab name='Other' resourceID='IDS_O'><item name='RSCP' resourceID='IDS_R'/></tab>"
+          "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
 }
 
 void ForeignHostTest::cleanup()
 {
     allocationsLeft = -1;
-    delete m_plugin;
-    for (int reference = 0; reference < 3; ++reference)
-        DiagnosticsUILogic::Destroy();
-    for (int reference = 0; reference < 3; ++reference)
-        DiagnosticsConfigParse::DestroyInstance();
-    delete m_host;
-    delete m_log;
+    tearDown();
 }
 
 void ForeignHostTest::noTexts()
@@ -120,116 +102,54 @@ void ForeignHostTest::noTexts()
 /// A tab change takes the first caption that contains the tab's in any letter case.
 void ForeignHostTest::captionInOtherLetters()
 {
-    m_host->write("DiagnosisConfig.xml",
-                  "<veltdoc><tab name='Network status' resourceID='THE DEVICE'>"
-                  "<item name='RSCP'/></tab><tab name='Device' resourceID='device'>"
-                  "<item name='IMEI'/></tab><common><simmsgprompt>SIM/USIM</simmsgprompt></common>"
-                  "</veltdoc>");
-    QCOMPARE(m_plugin->Init(), 1);
-    QWidget hostWindow;
-    QRect rect;
-    QCOMPARE(m_plugin->ShowWindow(&hostWindow, rect), 1);
-    ModemControl::startRecording();
-    diagnosticsWindow()->findChild<QTabWidget *>()->setCurrentIndex(1);
-    QCOMPARE(takeCalls(), QStringList(QLatin1String("VELT_NetSrv_GetSignalQuality()")));
+    open("<veltdoc><tab name='Network status' resourceID='THE DEVICE'><item name='RSCP'/></tab>"
+         "<tab name='Device' resourceID='device'><item name='IMEI'/></tab>"
+         "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
+    takeCalls();
+    tabs()->setCurrentIndex(1);
+    QCOMPARE(takeCalls(), list("VELT_NetSrv_GetSignalQuality()"));
 }
 
-void ForeignHostTest::memoryForTheWindow_data()
+/// From one allocation on all fail.
+void ForeignHostTest::memory()
 {
-    QTest::addColumn<int>("allocations"); ///< that succeed
-    QTest::addColumn<QString>("messages");
-    const QString failed = QLatin1String("|createWcdmaDialog: Creation of dialog is failed");
-    int allocations = 0;
-    const auto row = [&](const char *missing, const char *messages) {
-        QTest::newRow(missing) << allocations++ << QLatin1String(messages) + failed;
-    };
-    const char *const widgets = "createDiagWidget: Memory Allocation Failed";
-    const char *const form = "createTab: Memory Allocation Failed"
-                             "|dynamicTabCreation: tab creation failed"
-                             "|createDiagWidget: dynamic Tab creation Failed";
-    const char *const label = "createTab: tabItemNameLabel is null"
-                              "|dynamicTabCreation: tab creation failed"
-                              "|createDiagWidget: dynamic Tab creation Failed";
-    const char *const layouts = "createLayout: Memory assignment Failed"
-                                "|createDiagWidget: Layout creation failed";
-    row("frame", "createDiagWidget: Memory Allocation Failed for main dialog");
-    row("main widget", widgets);
-    row("tab widget", widgets);
-    row("Cancel", widgets);
-    row("Refresh", widgets);
-    row("marks", "createDiagWidget: dynamic Tab creation Failed");
-    // The pass over the pages ends at the first that is missing; the rows' pass comes all the same.
-    const QByteArray page = QByteArray("dynamicTabCreation: tabWidget is null|") + form;
-    row("first page", page.constData());
-    row("second page", page.constData());
-    row("first form", form);
-    row("first caption", label);
-    row("first value", label);
-    row("second form", form);
-    row("second caption", label);
-    row("second value", label);
-    row("Save", "createDiagWidget: Creation of Save Button Failed");
-    row("main layout", layouts);
-    row("top row", layouts);
-    row("bottom row", layouts);
-    QTest::newRow("nothing") << allocations << QString();
-}
-
-/// One allocation after the other fails, and with it all that follow.
-void ForeignHostTest::memoryForTheWindow()
-{
-    QFETCH(int, allocations);
-    QFETCH(QString, messages);
+    QFETCH(QStringList, fields);
     QCOMPARE(m_plugin->Init(), 1);
-    QWidget hostWindow;
-    QRect rect;
     m_log->takeLog();
-    allocationsLeft = allocations;
-    const int shown = m_plugin->ShowWindow(&hostWindow, rect);
+    allocationsLeft = fields.at(0).toInt();
+    const int shown = show();
     allocationsLeft = -1;
     QStringList said;
-    for (const QString &line : m_log->takeLog()) {
-        const QString message = line.section(QLatin1String(": "), 2);
+    for (const QString &logged : m_log->takeLog()) {
+        const QString message = logged.section(QLatin1String(": "), 2);
         if (message.contains(QLatin1String("ailed")) || message.contains(QLatin1String(" is null")))
             said.append(message);
     }
-    QCOMPARE(said.join(QLatin1Char('|')), messages);
-    QCOMPARE(shown, messages.isEmpty() ? 1 : 0);
+    QCOMPARE(said.join(QLatin1String(", ")), fields.at(2));
+    QCOMPARE(shown, said.isEmpty() ? 1 : 0);
     QCOMPARE(diagnosticsWindow() != nullptr, shown == 1);
     m_plugin->Notify(4100, 0, 0); // with what is left of the window
     settle();
 }
 
-void ForeignHostTest::memoryForTheSingletons_data()
-{
-    QTest::addColumn<int>("allocations");
-    QTest::addColumn<int>("initialised");
-    QTest::addColumn<int>("shown");
-    QTest::newRow("query layer") << 0 << 0 << 0;
-    QTest::newRow("store") << 1 << 0 << 0;
-    QTest::newRow("tab list") << 2 << 1 << 0;
-    QTest::newRow("customization") << 3 << 1 << 0;
-    QTest::newRow("settings") << 4 << 1 << 1;
-}
-
 void ForeignHostTest::memoryForTheSingletons()
 {
-    QFETCH(int, allocations);
-    QFETCH(int, initialised);
-    QFETCH(int, shown);
-    QWidget hostWindow;
-    QRect rect;
-    allocationsLeft = allocations;
-    QCOMPARE(m_plugin->Init(), initialised);
-    const QStringList log = m_log->takeLog();
-    allocationsLeft = -1;
-    QCOMPARE(
-        log.filter(QLatin1String("DiagnosticsConfigParse: m_pHashSetting/m_listDiagTab is NULL"))
-            .size(),
-        allocations >= 2 ? 1 : 0);
-    QCOMPARE(m_plugin->ShowWindow(&hostWindow, rect), shown);
-    if (!initialised)
-        QCOMPARE(m_plugin->Init(), 1); // with memory again
+    // Query layer, store, tab list, customization, settings.
+    const int initialised[] = {0, 0, 1, 1, 1};
+    const int shown[] = {0, 0, 0, 0, 1};
+    for (int allocations = 0; allocations < 5; ++allocations) {
+        allocationsLeft = allocations;
+        QCOMPARE(m_plugin->Init(), initialised[allocations]);
+        allocationsLeft = -1;
+        QCOMPARE(
+            m_log->takeLog().filter(QLatin1String("m_pHashSetting/m_listDiagTab is NULL")).size(),
+            allocations >= 2 ? 1 : 0);
+        QCOMPARE(show(), shown[allocations]);
+        if (!initialised[allocations])
+            QCOMPARE(m_plugin->Init(), 1); // with memory again
+        cleanup();
+        init();
+    }
 }
 
 QTEST_MAIN(ForeignHostTest)

@@ -4,9 +4,8 @@
 // The tabbed window: what it is built of, what fills it, what each action costs, how it ends.
 
 #include "DiagnosticsConfigParse.h"
-#include "DiagnosticsUILogic.h"
 #include "DiagnosticsUIPlugin.h"
-#include "TestSupport.h"
+#include "PluginTest.h"
 
 #include "HostCore.h"
 #include "ModemControl.h"
@@ -30,28 +29,15 @@ const char TwoTabs[] = "<veltdoc><tab name='Device' resourceID='IDS_TAB_DEVICE'>
                        "<item name='RSCP' resourceID='IDS_DIAGNOSE_RSCP'/></tab>"
                        "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>";
 
-QStringList texts(std::initializer_list<const char *> latin1)
-{
-    QStringList list;
-    for (const char *text : latin1)
-        list.append(QString::fromLatin1(text));
-    return list;
-}
-
-QString name(const char *object)
-{
-    return QLatin1String("DiagnosticsUIPlugin_") + QLatin1String(object);
-}
-
 } // namespace
 
-class WindowTest : public QObject
+class WindowTest : public PluginTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
+    void init() { setUp(); }
+    void cleanup() { tearDown(); }
 
     void widgets();
     void shippedConfiguration();
@@ -61,81 +47,25 @@ private Q_SLOTS:
     void hiddenAndDoubleRows();
     void captionLookups();
     void unavailableDevice();
-    void customization_data();
+    void customization_data() { addRows(TEST_SOURCE_DIR "/window.txt", "customization"); }
     void customization();
-    void saveButton_data();
+    void saveButton_data() { addRows(TEST_SOURCE_DIR "/window.txt", "save button"); }
     void saveButton();
     void noCustomizationOpensWindow();
     void releasedStore();
     void tabWithoutItemList();
-    void valuesOfUnknownNames();
+    void values_data() { addRows(TEST_SOURCE_DIR "/window.txt", "values"); }
+    void values();
+    void valuesWithoutAnswer();
     void plainTextAndCopying();
     void thousandRows();
-    void ends_data();
+    void ends_data() { addRows(TEST_SOURCE_DIR "/window.txt", "ends"); }
     void ends();
-    void twoWindows_data();
+    void twoWindows_data() { addRows(TEST_SOURCE_DIR "/window.txt", "two windows"); }
     void twoWindows();
     void tornDownUnderTheWindow();
     void toolkitTranslationIsNeverAsked();
-
-private:
-    void open(const QByteArray &configuration);
-    QTabWidget *tabs()
-    {
-        return diagnosticsWindow()->findChild<QTabWidget *>(name("tabWidgetDiag"));
-    }
-    void click(const char *button)
-    {
-        QTest::mouseClick(diagnosticsWindow()->findChild<QPushButton *>(name(button)),
-                          Qt::LeftButton);
-    }
-
-    LogCapture *m_log = nullptr;
-    ConfiguredHost *m_host = nullptr;
-    QWidget *m_parent = nullptr;
-    DiagnosticsUIPlugin *m_plugin = nullptr;
 };
-
-void WindowTest::init()
-{
-    m_log = new LogCapture;
-    m_host = new ConfiguredHost;
-    attachModem("wcdma");
-    m_parent = new QWidget;
-    m_parent->resize(600, 500);
-    m_parent->show();
-    m_plugin = new DiagnosticsUIPlugin;
-}
-
-void WindowTest::cleanup()
-{
-    delete m_parent;
-    settle();
-    QVERIFY(!diagnosticsWindow());
-    delete m_plugin;
-    // What the counting rule leaves alive: one query layer, which holds the store.
-    DiagnosticsUILogic::Destroy();
-    DiagnosticsConfigParse::DestroyInstance();
-    DiagnosticsConfigParse::DestroyInstance();
-    delete m_host;
-    QStringList warnings = m_log->takeWarnings();
-    // Without a Save button the toolkit says that it passes over it.
-    warnings.removeAll(QLatin1String("QLayout: Cannot add a null widget to QHBoxLayout/"
-                                     "DiagnosticsUIPlugin_hboxLayoutBottom"));
-    QCOMPARE(warnings, QStringList());
-    delete m_log;
-}
-
-void WindowTest::open(const QByteArray &configuration)
-{
-    if (!configuration.isEmpty())
-        m_host->write("DiagnosisConfig.xml", configuration);
-    QCOMPARE(m_plugin->Init(), 1);
-    ModemControl::startRecording();
-    QRect rect;
-    QCOMPARE(m_plugin->ShowWindow(m_parent, rect), 1);
-    QVERIFY(diagnosticsWindow());
-}
 
 void WindowTest::widgets()
 {
@@ -148,15 +78,16 @@ void WindowTest::widgets()
     QCOMPARE(window->windowTitle(), QString::fromLatin1("Diagnostics"));
     QVERIFY(window->testAttribute(Qt::WA_DeleteOnClose));
     QCOMPARE(window->parentWidget(), m_parent);
-    QCOMPARE(window->focusWidget()->objectName(), name("pushButtonCancel"));
+    QCOMPARE(window->focusWidget()->objectName(),
+             QLatin1String("DiagnosticsUIPlugin_pushButtonCancel"));
 
-    auto *bottom = window->findChild<QHBoxLayout *>(name("hboxLayoutBottom"));
+    auto *bottom =
+        window->findChild<QHBoxLayout *>(QLatin1String("DiagnosticsUIPlugin_hboxLayoutBottom"));
     QCOMPARE(bottom->contentsMargins(), QMargins(0, 0, 15, 0));
     QCOMPARE(bottom->alignment(), Qt::Alignment(Qt::AlignRight));
-    QWidget *refresh = window->findChild<QPushButton *>(name("pushButtonRefresh"));
-    QWidget *cancel = window->findChild<QPushButton *>(name("pushButtonCancel"));
-    QCOMPARE(cancel->x() - refresh->x() - refresh->width(), 26);
-    QVERIFY(refresh->geometry().top() >= tabs()->geometry().bottom());
+    QCOMPARE(button("Cancel")->x() - button("Refresh")->geometry().right() - 1, 26);
+    QCOMPARE(button("Refresh")->x() - button("Save")->geometry().right() - 1, 26);
+    QVERIFY(button("Refresh")->y() > tabs()->geometry().bottom());
 
     const auto captions = tabs()->findChildren<QLabel *>();
     for (QLabel *label : captions) {
@@ -170,45 +101,12 @@ void WindowTest::widgets()
 
 void WindowTest::shippedConfiguration()
 {
-    open(QByteArray());
-    const QStringList opened =
-        texts({"[Device]", "Device name = TM-W310", "Application port = KORVENMOBILE-Pcui",
-               "Serial number = TW3100A940016", "IMEI = 001017003100016",
-               "Hardware version = W3B1TCPU Ver.A", "Firmware version = 11.433.09.00.00",
-               "Software version = Unknown", "[Network settings]",
-               "APN = ", "Network selection = ", "[Network status]"});
-    QCOMPARE(QStringList(flatten(diagnosticsWindow()).mid(0, opened.size())), opened);
-
+    open();
+    QStringList rows = flatten(diagnosticsWindow());
     for (int index = 1; index < tabs()->count(); ++index)
         tabs()->setCurrentIndex(index);
-    const QStringList visited = texts({"[Network settings]",
-                                       "APN = Unknown",
-                                       "Network selection = Automatic",
-                                       "[Network status]",
-                                       "Network name = Unknown",
-                                       "Network type = Unknown",
-                                       "Signal strength = 19, 99",
-                                       "RSSI = -75dBm",
-                                       "RSQUAL (BER) = 99",
-                                       "RSCP = -87",
-                                       "Ec/Io = -6",
-                                       "Ec/No = not implement",
-                                       "Cell ID = 00C3D4E",
-                                       "Location area code (LAC) = 1A2B",
-                                       "CS registration = Registered",
-                                       "PS registration = Registered",
-                                       "PS attachment = Attached",
-                                       "IP address = 192.0.2.17",
-                                       "DNS server = 192.0.2.53, 192.0.2.54",
-                                       "[SIM/USIM]",
-                                       "IMSI = 001010000000017",
-                                       "Own number (MSISDN) = +447700900017",
-                                       "Messages in SIM/USIM = 4 / 30",
-                                       "Contacts in SIM/USIM = 12 / 250",
-                                       "Message centre (SMSC) = +447700900900",
-                                       "PIN status = Ready",
-                                       "ICCID = 89001010000000000117"});
-    QCOMPARE(QStringList(flatten(diagnosticsWindow()).mid(8)), visited);
+    rows.append(QString());
+    compareWithGolden(QLatin1String("window.shipped"), rows + flatten(diagnosticsWindow()));
 }
 
 /// Each name of the shipped file has a value of its own, and all that the dispatch knows is
@@ -249,26 +147,26 @@ void WindowTest::everyNameIsKnown()
 void WindowTest::costOfActions()
 {
     open(TwoTabs);
-    const QStringList imei = texts({"VELT_DevSrv_GetImeiInfo()"});
-    const QStringList rscp = texts({"VELT_NetSrv_GetSignalQuality()"});
-    QCOMPARE(takeCalls(), texts({"VELT_DevSrv_GetProductType()"}) + imei);
+    const QStringList imei = list("VELT_DevSrv_GetImeiInfo()");
+    const QStringList rscp = list("VELT_NetSrv_GetSignalQuality()");
+    QCOMPARE(takeCalls(), list("VELT_DevSrv_GetProductType()") + imei);
     tabs()->setCurrentIndex(1);
     QCOMPARE(takeCalls(), rscp);
     m_log->takeLog();
     tabs()->setCurrentIndex(0);
     QCOMPARE(takeCalls(), QStringList());
     QCOMPARE(m_log->takeLog(),
-             texts({"TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: onTabChange: called"}));
+             list("TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: onTabChange: called"));
     tabs()->setCurrentIndex(1);
     QCOMPARE(takeCalls(), rscp); // the network status is read on each visit
     ModemControl::setValue("device/imei", "1");
     ModemControl::setValue("network/rscp", "-1");
-    click("pushButtonRefresh");
+    button("Refresh")->click();
     QCOMPARE(takeCalls(), rscp);
     QCOMPARE(flatten(diagnosticsWindow()),
-             texts({"[Device]", "IMEI = 001017003100016", "[Network status]", "RSCP = -1"}));
+             list("[Device]|IMEI = 001017003100016|[Network status]|RSCP = -1"));
     tabs()->setCurrentIndex(0);
-    click("pushButtonRefresh");
+    button("Refresh")->click();
     QCOMPARE(takeCalls(), imei);
     tabs()->setCurrentIndex(1);
     tabs()->setCurrentIndex(0);
@@ -299,7 +197,7 @@ void WindowTest::hiddenAndDoubleRows()
     tabs()->setCurrentIndex(1);
     tabs()->setCurrentIndex(0);
     QCOMPARE(flatten(diagnosticsWindow()),
-             texts({"[Device]", "IMEI = 001017003100016", "IMEI = ", "[Network settings]"}));
+             list("[Device]|IMEI = 001017003100016|IMEI = |[Network settings]"));
     QCOMPARE(takeCalls().count(QLatin1String("VELT_DevSrv_GetImeiInfo()")), 2);
     QCOMPARE(takeCalls().size(), 0);
 }
@@ -315,16 +213,16 @@ void WindowTest::captionLookups()
          "<tab name='Same caption' resourceID='IDS_TAB_DEVICE'>"
          "<item name='Serial number' resourceID='IDS_DIAGNOSE_SERIAL_NUMBER'/></tab>"
          "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
-    const QStringList rscp = texts({"VELT_NetSrv_GetSignalQuality()"});
-    const QStringList imei = texts({"VELT_DevSrv_GetImeiInfo()"});
+    const QStringList rscp = list("VELT_NetSrv_GetSignalQuality()");
+    const QStringList imei = list("VELT_DevSrv_GetImeiInfo()");
     takeCalls();
     tabs()->setCurrentIndex(1);
     QCOMPARE(takeCalls(), rscp);
-    click("pushButtonRefresh");
+    button("Refresh")->click();
     QCOMPARE(takeCalls(), imei);
     tabs()->setCurrentIndex(2);
     QCOMPARE(takeCalls(), rscp);
-    click("pushButtonRefresh");
+    button("Refresh")->click();
     QCOMPARE(takeCalls(), imei); // of two equal captions the first
     QCOMPARE(flatten(diagnosticsWindow()).last(), QString::fromLatin1("Serial number = "));
 }
@@ -339,8 +237,8 @@ void WindowTest::unavailableDevice()
          "<tab name='Network status' resourceID='IDS_TAB_NETWORK_STATUS'>"
          "<item name='RSCP' resourceID='IDS_DIAGNOSE_RSCP'/></tab>"
          "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
-    const QStringList present = texts({"[Device]", "IMEI = 001017003100016",
-                                       "Software version = 2.1", "[Network status]", "RSCP = "});
+    const QStringList present =
+        list("[Device]|IMEI = 001017003100016|Software version = 2.1|[Network status]|RSCP = ");
     QCOMPARE(flatten(diagnosticsWindow()), present);
 
     ModemControl::unplug();
@@ -350,90 +248,47 @@ void WindowTest::unavailableDevice()
     QCOMPARE(flatten(diagnosticsWindow()), present); // an event alone changes no row
     tabs()->setCurrentIndex(1);
     tabs()->setCurrentIndex(0);
-    click("pushButtonRefresh");
+    button("Refresh")->click();
     QCOMPARE(takeCalls(), QStringList());
-    QCOMPARE(flatten(diagnosticsWindow()),
-             texts({"[Device]", "IMEI = Unknown", "Software version = 2.1", "[Network status]",
-                    "RSCP = Unknown"}));
+    QCOMPARE(
+        flatten(diagnosticsWindow()),
+        list("[Device]|IMEI = Unknown|Software version = 2.1|[Network status]|RSCP = Unknown"));
 
     ModemControl::plug();
     QVERIFY(ModemControl::waitForEvents(10000));
     settle();
-    click("pushButtonRefresh");
+    button("Refresh")->click();
     tabs()->setCurrentIndex(1);
-    QCOMPARE(flatten(diagnosticsWindow()),
-             texts({"[Device]", "IMEI = 001017003100016", "Software version = 2.1",
-                    "[Network status]", "RSCP = -87"}));
-}
-
-void WindowTest::customization_data()
-{
-    QTest::addColumn<QByteArray>("prompt");
-    QTest::addColumn<QByteArray>("simTab");
-    QTest::addColumn<QStringList>("expected");
-    const QByteArray sim("IDS_TAB_SIM");
-    QTest::newRow("the common wording")
-        << QByteArray("<common><simmsgprompt>SIM/USIM</simmsgprompt></common>") << sim
-        << texts({"[Device]", "[SIM/USIM]", "Messages in SIM/USIM = ", "Contacts in SIM/USIM = "});
-    QTest::newRow("a wording of its own leaves the tab blank")
-        << QByteArray("<common><simmsgprompt>UIM</simmsgprompt></common>") << sim
-        << texts({"[Device]", "[UIM]", "Messages in UIM = ", "Contacts in UIM = "});
-    QTest::newRow("no wording") << QByteArray() << sim
-                                << texts({"[Device]", "[]", "Messages in  = ", "Contacts in  = "});
-    QTest::newRow("no title with sim: the first tab")
-        << QByteArray("<common><simmsgprompt>UIM</simmsgprompt></common>")
-        << QByteArray("IDS_TAB_NETWORK_SETTINGS")
-        << texts({"[UIM]", "[Network settings]", "Messages in UIM = ", "Contacts in UIM = "});
+    QCOMPARE(
+        flatten(diagnosticsWindow()),
+        list("[Device]|IMEI = 001017003100016|Software version = 2.1|[Network status]|RSCP = -87"));
 }
 
 void WindowTest::customization()
 {
-    QFETCH(QByteArray, prompt);
-    QFETCH(QByteArray, simTab);
-    QFETCH(QStringList, expected);
+    QFETCH(QStringList, fields);
+    const QByteArray simTab = fields.at(1).toLatin1();
     open("<veltdoc><tab name='Device' resourceID='IDS_TAB_DEVICE'/>"
          "<tab name='SIM/USIM' resourceID='" +
          simTab +
          "'>"
          "<item name='Messages in SIM/USIM' resourceID='IDS_DIAGNOSE_SIM_MESSAGES'/>"
          "<item name='Contacts in SIM/USIM' resourceID='IDS_DIAGNOSE_SIM_CONTACTS'/></tab>" +
-         prompt + "</veltdoc>");
-    QCOMPARE(flatten(diagnosticsWindow()), expected);
+         fields.at(2).toLatin1() + "</veltdoc>");
+    QCOMPARE(flatten(diagnosticsWindow()).join(QLatin1Char(',')), fields.at(3));
     tabs()->setCurrentIndex(1);
-    click("pushButtonRefresh");
-    const bool found = tabs()->tabText(1) == QLatin1String("SIM/USIM") ||
-                       tabs()->tabText(1) == QLatin1String("Network settings");
-    // An empty title is contained in the first tab's, a wording of its own in none.
-    QCOMPARE(flatten(diagnosticsWindow()).last().endsWith(QLatin1String("12 / 250")), found);
-}
-
-void WindowTest::saveButton_data()
-{
-    QTest::addColumn<QByteArray>("function");
-    QTest::addColumn<bool>("shown");
-    QTest::newRow("true") << QByteArray("<item name='SaveButton' value='true'/>") << true;
-    QTest::newRow("capital") << QByteArray("<item name='SaveButton' value='True'/>") << false;
-    QTest::newRow("digit") << QByteArray("<item name='SaveButton' value='1'/>") << false;
-    QTest::newRow("empty") << QByteArray("<item name='SaveButton'/>") << false;
-    QTest::newRow("missing") << QByteArray() << false;
+    button("Refresh")->click();
+    QCOMPARE(flatten(diagnosticsWindow()).last().section(QLatin1String(" = "), 1), fields.at(4));
 }
 
 void WindowTest::saveButton()
 {
-    QFETCH(QByteArray, function);
-    QFETCH(bool, shown);
-    open("<veltdoc><function>" + function +
+    QFETCH(QStringList, fields);
+    open("<veltdoc><function>" + fields.at(0).toLatin1() +
          "</function><common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
-    auto *save = diagnosticsWindow()->findChild<QPushButton *>(name("pushButtonSave"));
-    QCOMPARE(save != nullptr, shown);
-    if (!shown)
-        return;
-    auto *refresh = diagnosticsWindow()->findChild<QPushButton *>(name("pushButtonRefresh"));
-    QCOMPARE(save->text(), QString::fromLatin1("&Save"));
-    QCOMPARE(refresh->x() - save->x() - save->width(), 26);
-    QVERIFY(m_log->takeLog().contains(
-        QLatin1String("TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: createDiagWidget: "
-                      "bSetVisible is false")));
+    const bool shown = button("Save") != nullptr;
+    QCOMPARE(shown ? QLatin1String("shown") : QLatin1String("none"), fields.at(1));
+    QCOMPARE(m_log->takeLog().contains(line("createDiagWidget: bSetVisible is false")), shown);
 }
 
 void WindowTest::noCustomizationOpensWindow()
@@ -442,8 +297,8 @@ void WindowTest::noCustomizationOpensWindow()
     QVERIFY(QFile::remove(m_host->folder() + QLatin1String("DiagnosisConfig.xml")));
     open(QByteArray());
     QCOMPARE(flatten(diagnosticsWindow()), QStringList());
-    click("pushButtonRefresh");
-    click("pushButtonCancel");
+    button("Refresh")->click();
+    button("Cancel")->click();
     settle();
     QVERIFY(!diagnosticsWindow());
 }
@@ -453,15 +308,14 @@ void WindowTest::releasedStore()
     QCOMPARE(m_plugin->Init(), 1);
     DiagnosticsConfigParse::GetInstance()->ReleaseData();
     m_log->takeLog();
-    QRect rect;
-    QCOMPARE(m_plugin->ShowWindow(m_parent, rect), 0);
+    QCOMPARE(show(), 0);
     QVERIFY(!diagnosticsWindow());
     QStringList messages;
     for (const QString &line : m_log->takeLog().filter(QLatin1String("ailed")))
         messages.append(line.section(QLatin1String(": "), 2));
-    QCOMPARE(messages, texts({"dynamicTabCreation: Memory Allocation Failed",
-                              "createDiagWidget: dynamic Tab creation Failed",
-                              "createWcdmaDialog: Creation of dialog is failed"}));
+    QCOMPARE(messages,
+             list("dynamicTabCreation: Memory Allocation Failed|createDiagWidget: dynamic Tab "
+                  "creation Failed|createWcdmaDialog: Creation of dialog is failed"));
     DiagnosticsConfigParse::DestroyInstance();
 }
 
@@ -474,52 +328,48 @@ void WindowTest::tabWithoutItemList()
     delete first.items;
     first.items = nullptr;
     m_log->takeLog();
-    QRect rect;
-    QCOMPARE(m_plugin->ShowWindow(m_parent, rect), 0);
+    QCOMPARE(show(), 0);
     QCOMPARE(
         m_log->takeLog().filter(QLatin1String("createTab: Input Parameter has a problem")).size(),
         1);
     DiagnosticsConfigParse::DestroyInstance();
 }
 
-void WindowTest::valuesOfUnknownNames()
+void WindowTest::values()
 {
-    const auto value = [this](const char *tab, const char *item) {
-        QString text;
-        m_plugin->getValueLabelVal(QLatin1String(tab), QLatin1String(item), &text);
-        return text;
-    };
-    const QString unknown = QLatin1String("Unknown");
-    QCOMPARE(value("SIM/USIM", "ICCID"), unknown); // before Init
-    open(TwoTabs);
-    ModemControl::setValue("network/rssi", "99");
-    QCOMPARE(value("Network settings", "IMEI"), QString::fromLatin1("001017003100016"));
-    QCOMPARE(value("Device", "Network selection mode"), QString::fromLatin1("Automatic"));
-    QCOMPARE(value("Network status", "RSSI"), unknown);
+    QFETCH(QStringList, fields);
+    QString before;
+    m_plugin->getValueLabelVal(fields.at(0), fields.at(1), &before);
+    QCOMPARE(before, QString::fromLatin1("Unknown")); // there is no query layer yet
+    QCOMPARE(m_plugin->Init(), 1);
     takeCalls();
-    const char *unknowns[][2] = {{"device", "IMEI"},
-                                 {"Device", "imei"},
-                                 {"Device", "Firmware version"},
-                                 {"Network status", "IMEI"},
-                                 {"SIM/USIM", "Messages in Device"},
-                                 {"", ""}};
-    for (const auto &names : unknowns)
-        QCOMPARE(value(names[0], names[1]), unknown);
-    QCOMPARE(takeCalls(), QStringList());
-    // A getter's empty answer is replaced by the outer function alone.
-    ModemControl::setResult("VELT_DevSrv_GetImeiInfo", 1);
+    QString value;
+    m_plugin->getValueLabelVal(fields.at(0), fields.at(1), &value);
+    QCOMPARE(value, fields.at(2));
+    QCOMPARE(takeCalls().size(), fields.at(3).toInt());
+}
+
+void WindowTest::valuesWithoutAnswer()
+{
+    open(TwoTabs);
+    ModemControl::setResult("*", 1);
     QCOMPARE(m_plugin->getDeviceNetTabItemValue(QLatin1String("IMEI")), QString());
-    QCOMPARE(value("Device", "IMEI"), unknown);
-    QString left = QLatin1String("left");
-    m_plugin->getValueLabelVal(QLatin1String("none"), QLatin1String("none"), &left);
-    QCOMPARE(left, QString::fromLatin1("left"));
+    QString value;
+    m_plugin->getValueLabelVal(QLatin1String("Device"), QLatin1String("IMEI"), &value);
+    QCOMPARE(value, QString::fromLatin1("Unknown"));
+    m_plugin->getValueLabelVal(QLatin1String("Network status"), QLatin1String("RSSI"), &value);
+    QCOMPARE(value, QString::fromLatin1("Unknown"));
+    value = QLatin1String("left");
+    m_plugin->getValueLabelVal(QLatin1String("none"), QLatin1String("none"), &value);
+    QCOMPARE(value, QString::fromLatin1("left"));
 }
 
 void WindowTest::plainTextAndCopying()
 {
     ModemControl::setValue("device/imei", "<b>1</b>&amp;\n2");
     open(TwoTabs);
-    auto *label = diagnosticsWindow()->findChild<QLabel *>(name("labelIMEIValue"));
+    auto *label = diagnosticsWindow()->findChild<QLabel *>(
+        QLatin1String("DiagnosticsUIPlugin_labelIMEIValue"));
     QCOMPARE(label->text(), QString::fromLatin1("<b>1</b>&amp;\n2"));
     QCOMPARE(label->textFormat(), Qt::PlainText);
     QVERIFY(label->textInteractionFlags() & Qt::TextSelectableByMouse);
@@ -536,31 +386,22 @@ void WindowTest::thousandRows()
     QCOMPARE(rows.last(), QString::fromLatin1("APN = Unknown"));
 }
 
-void WindowTest::ends_data()
-{
-    QTest::addColumn<QByteArray>("way");
-    QTest::newRow("cancel") << QByteArray("cancel");
-    QTest::newRow("title bar") << QByteArray("close");
-    QTest::newRow("Esc") << QByteArray("escape");
-    QTest::newRow("notification") << QByteArray("notify");
-    QTest::newRow("the host's window goes") << QByteArray("parent");
-}
-
 void WindowTest::ends()
 {
-    QFETCH(QByteArray, way);
+    QFETCH(QStringList, fields);
+    const QString way = fields.at(0);
     open(TwoTabs);
-    QPointer<QWidget> window = diagnosticsWindow();
+    const QPointer<QWidget> window = diagnosticsWindow();
     QSignalSpy ended(window, SIGNAL(dlgCloseEvent()));
     QCOMPARE(m_plugin->Notify(4101, 4100, 4100), 0);
     QVERIFY(window->isVisible());
-    if (way == "cancel") {
-        click("pushButtonCancel");
-    } else if (way == "close") {
+    if (way == QLatin1String("Cancel")) {
+        button("Cancel")->click();
+    } else if (way == QLatin1String("title bar")) {
         window->close();
-    } else if (way == "escape") {
+    } else if (way == QLatin1String("Esc")) {
         QTest::keyClick(window, Qt::Key_Escape);
-    } else if (way == "notify") {
+    } else if (way == QLatin1String("notification")) {
         QCOMPARE(m_plugin->Notify(4100, 0, 0), 0);
     } else {
         delete m_parent;
@@ -570,30 +411,21 @@ void WindowTest::ends()
     QVERIFY(!window);
     QCOMPARE(ended.count(), 1);
     QCOMPARE(m_plugin->Notify(4100, 0, 0), 0); // with no window
-    // A new window is built as the first one was.
-    QRect rect;
-    QCOMPARE(m_plugin->ShowWindow(m_parent, rect), 1);
+    QCOMPARE(show(), 1);                       // a new window, built as the first one was
     QCOMPARE(flatten(diagnosticsWindow()).at(1), QString::fromLatin1("IMEI = 001017003100016"));
     delete diagnosticsWindow();
-}
-
-void WindowTest::twoWindows_data()
-{
-    QTest::addColumn<bool>("newerFirst");
-    QTest::newRow("the newer closes first") << true;
-    QTest::newRow("the older closes first") << false;
 }
 
 /// The plug-in knows the newer window only: the older one must still be harmless.
 void WindowTest::twoWindows()
 {
-    QFETCH(bool, newerFirst);
+    QFETCH(QStringList, fields);
+    const bool newerFirst = fields.at(0) == QLatin1String("the newer closes first");
     open(TwoTabs);
     QPointer<QWidget> older = diagnosticsWindow();
     QPointer<QTabWidget> olderTabs = tabs();
     older->hide(); // so that diagnosticsWindow() is the newer one
-    QRect rect;
-    QCOMPARE(m_plugin->ShowWindow(m_parent, rect), 1);
+    QCOMPARE(show(), 1);
     QPointer<QWidget> newer = diagnosticsWindow();
     QVERIFY(newer != older);
     older->show();
@@ -622,14 +454,13 @@ void WindowTest::tornDownUnderTheWindow()
     m_log->takeLog();
     tabs()->setCurrentIndex(1);
     QCOMPARE(m_log->takeLog(),
-             texts({"TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: onTabChange: called",
-                    "TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: onTabChange: no more tab "
-                    "to switch or widget is null"}));
-    click("pushButtonRefresh");
+             list("TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: onTabChange: called|TIME: "
+                  "../../src/DiagnosisPlugin/DiagnosticsUIPlugin: onTabChange: no more tab to "
+                  "switch or widget is null"));
+    button("Refresh")->click();
     QCOMPARE(takeCalls(), QStringList());
-    QRect rect;
-    QCOMPARE(m_plugin->ShowWindow(m_parent, rect), 0);
-    click("pushButtonCancel");
+    QCOMPARE(show(), 0);
+    button("Cancel")->click();
     settle();
     QVERIFY(!diagnosticsWindow());
 }
@@ -653,7 +484,7 @@ void WindowTest::toolkitTranslationIsNeverAsked()
     open(QByteArray());
     for (int index = 1; index < tabs()->count(); ++index)
         tabs()->setCurrentIndex(index);
-    click("pushButtonRefresh");
+    button("Refresh")->click();
     QCoreApplication::removeTranslator(&recorder);
     QVERIFY2(recorder.contexts.filter(QLatin1String("Diagnostics")).isEmpty(),
              qPrintable(recorder.contexts.join(QLatin1Char(' '))));

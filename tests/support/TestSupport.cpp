@@ -20,8 +20,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTimer>
-
-#include <cctype>
+#include <QtTest>
 
 namespace {
 
@@ -76,6 +75,38 @@ QByteArray contentOf(const char *fileName)
 } // namespace
 
 namespace TestSupport {
+
+void addRows(const char *fileName, const char *section)
+{
+    QTest::addColumn<QStringList>("fields");
+    bool inSection = false;
+    for (QByteArray line : contentOf(fileName).split('\n')) {
+        if (line.startsWith('[')) {
+            inSection = line == '[' + QByteArray(section) + ']';
+        } else if (inSection && !line.isEmpty() && !line.startsWith('#')) {
+            const QByteArray name = line;
+            line.replace("\\n", "\n");
+            for (int at = line.indexOf("\\x"); at >= 0; at = line.indexOf("\\x", at + 1))
+                line.replace(at, 4, QByteArray::fromHex(line.mid(at + 2, 2)));
+            QTest::newRow(name.constData())
+                << QString::fromLatin1(line).split(QLatin1String(" | "));
+        }
+    }
+}
+
+QStringList list(const char *texts)
+{
+    return QString::fromLatin1(texts).split(QLatin1Char('|'));
+}
+
+void setValues(const QString &changes)
+{
+    for (const QByteArray &change : changes.toLatin1().split(';')) {
+        const int at = change.indexOf('=');
+        if (at > 0)
+            ModemControl::setValue(change.left(at).toStdString(), change.mid(at + 1).toStdString());
+    }
+}
 
 LogCapture::LogCapture()
 {
@@ -178,27 +209,20 @@ QStringList flatten(QWidget *window)
     return rows;
 }
 
-void keepActual(const char *name, const QStringList &lines)
-{
-    QFile actual(QLatin1String(name) + QLatin1String(".actual"));
-    if (actual.open(QIODevice::WriteOnly))
-        actual.write(lines.join(QLatin1Char('\n')).toUtf8());
-}
-
 void answer(QFileDialog *dialog, const QString &path)
 {
     dialog->findChild<QLineEdit *>()->setText(path);
     static_cast<QDialog *>(dialog)->done(QDialog::Accepted); // past the question to overwrite
 }
 
-MessageBoxes save(QPushButton *button, const QString &path)
+QStringList save(QPushButton *button, const QString &path)
 {
-    MessageBoxes boxes;
+    QStringList boxes;
     QTimer answers; // runs in the event loops that the dialogs block in
     QObject::connect(&answers, &QTimer::timeout, [&boxes, &path] {
         QWidget *const dialog = QApplication::activeModalWidget();
         if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
-            boxes.shown.append(box->windowTitle() + QLatin1Char('|') + box->text());
+            boxes.append(box->windowTitle() + QLatin1String(": ") + box->text());
             box->buttons().at(0)->click();
         } else if (auto *question = qobject_cast<QFileDialog *>(dialog)) {
             if (path.isNull()) {

@@ -12,8 +12,19 @@ class QFileDialog;
 class QPushButton;
 class QWidget;
 
-/// What the tests of the plug-in share: the log, the modem, the configuration, the window as text.
+/// What the tests of the plug-in share: data files, the log, the modem, the configuration, the
+/// window as text.
 namespace TestSupport {
+
+/// Adds a row of test data for each line of a section, "[name]", of a file: its fields, which " | "
+/// separates, in the one column "fields". Fields may have the escapes \n and \xNN (Latin-1).
+void addRows(const char *fileName, const char *section);
+
+/// The texts between '|'.
+QStringList list(const char *texts);
+
+/// Changes values of the modem: "key=value", separated by semicolons.
+void setValues(const QString &changes);
 
 /// Takes the toolkit's messages while it lives. Debug lines are the plug-in's log; their time
 /// field, if well-formed, reads "TIME". All other messages are warnings.
@@ -62,22 +73,12 @@ QWidget *diagnosticsWindow();
 /// visiting any tab.
 QStringList flatten(QWidget *window);
 
-/// Writes what a test got instead of a golden file's lines to "<name>.actual" in the current
-/// folder.
-void keepActual(const char *name, const QStringList &lines);
-
-/// What the user was told while a Save button worked.
-struct MessageBoxes
-{
-    QStringList shown; ///< "caption|text"
-};
-
 /// Answers an open file dialog with a path.
 void answer(QFileDialog *dialog, const QString &path);
 
 /// Presses a Save button, answers its file dialog with a path, or cancels it for a null one, and
-/// accepts all message boxes.
-MessageBoxes save(QPushButton *button, const QString &path);
+/// accepts all message boxes, of which it gives "caption: text".
+QStringList save(QPushButton *button, const QString &path);
 
 /// Runs the event loop until all posted events, deferred deletions included, are delivered.
 void settle();

@@ -87,6 +87,9 @@ enum class NumberValue
 };
 #undef MODEM_ENUMERATOR
 
+/// A number that the modem doesn't tell, in a function whose other values are of use without it.
+const int64_t notTold = -1;
+
 /// A modem behind the SDK's functions. It knows its values and nothing of records, buffers and
 /// out-parameters. Any thread may call it, several at once; no call blocks.
 class Modem

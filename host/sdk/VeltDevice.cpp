@@ -29,10 +29,12 @@ VELT_ERROR unregisterCallback(const char *function, Kind kind, VELT_DEVICE_CALLB
     });
 }
 
-/// A number from 0 to 9 as a character.
+/// A number from 0 to 9 as a character; '?' stands for one that the modem doesn't tell.
 char digit(Answer &answer, NumberValue value)
 {
     const int32_t number = answer.number<int32_t>(value);
+    if (number == notTold)
+        return '?';
     if (number < 0 || number > 9)
         answer.note(VELT_ERROR_FAILURE);
     return static_cast<char>('0' + number);

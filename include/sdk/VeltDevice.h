@@ -116,7 +116,7 @@ enum VELT_PIN_STATUS
 
 /// The state of a PIN, see VELT_PIN_STATUS. \a pin chooses it: 0 is PIN 1. The three bytes tell, as
 /// the characters '0' to '9': the attempts left for the PIN, those left for its PUK, and whether
-/// the PIN is asked for at start ('1') or not ('0').
+/// the PIN is asked for at start ('1') or not ('0'); '?' stands for what the device does not tell.
 VELT_API VELT_ERROR VELT_DevSrv_GetPinStatus(int32_t pin, int32_t *status, char *pinAttempts,
                                              char *pukAttempts, char *pinEnabled);
 
@@ -124,7 +124,8 @@ VELT_API VELT_ERROR VELT_DevSrv_GetPinStatus(int32_t pin, int32_t *status, char 
 VELT_API VELT_ERROR VELT_DevSrv_GetImsiInfo(char *imsi);
 
 /// What the SIM's own-number phonebook can hold: how many entries, the index of its first entry,
-/// how many entries are used, and the longest number and name, in characters.
+/// how many entries are used, and the longest number and name, in characters; -1 stands for what
+/// the device does not tell.
 VELT_API VELT_ERROR VELT_DevSrv_GetUserNumMemAbility(int32_t *capacity, int32_t *firstIndex,
                                                      int32_t *used, int32_t *numberLength,
                                                      int32_t *nameLength);

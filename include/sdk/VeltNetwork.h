@@ -10,7 +10,7 @@
 #include "VeltTypes.h"
 
 /// The current operator and how it was chosen: \a mode is 0 for automatic and 1 for manual
-/// selection, as in +COPS (3GPP TS 27.007).
+/// selection, as in +COPS (3GPP TS 27.007), and -1 where the device tells the operator only.
 VELT_API VELT_ERROR VELT_NetSrv_GetCurPlmn(int32_t *mode, VELT_OPERATOR *plmn);
 
 /// The circuit-switched registration. The location fields are filled while the report mode is 2 and

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef CONVERSION_H
+#define CONVERSION_H
+
+#include "Modem.h"
+#include "ModemControl.h"
+
+#include <QList>
+#include <QMap>
+#include <QVariantMap>
+
+#include <map>
+#include <string>
+#include <vector>
+
+/// What the service tells of one modem: the properties by their names, in plain types (paths are
+/// texts, records are lists, dictionaries have texts as keys).
+struct ServiceObjects
+{
+    QMap<QString, QVariantMap> interfaces; ///< the modem's, "Modem" or "Modem.Signal"
+    QVariantMap sim;
+    QList<QVariantMap> bearers;
+    QList<QVariantMap> messages;
+    QVariantMap location; ///< by the number of its source
+};
+
+/// The values of a modem; what is missing here, the modem doesn't have.
+struct Readings
+{
+    std::map<TextValue, std::string> texts;
+    std::map<NumberValue, int64_t> numbers;
+    bool simMissing = false;
+    std::vector<std::string> ownNumbers;
+    struct Connection
+    {
+        std::string profile;
+        std::map<TextValue, std::string> texts;
+    };
+    std::vector<Connection> connections;           ///< the current one first
+    std::map<std::string, std::string> hostValues; ///< see ModemService::value()
+};
+
+/// How far the service is with a modem (its Modem.State).
+enum ServiceModemState
+{
+    ModemFailed = -1,
+    ModemInitialising = 1,
+    ModemEnabled = 6
+};
+
+/// Whether anything can be read from the modem with these properties of the interface "Modem".
+bool isUsable(const QVariantMap &modem);
+
+/// All that the SDK says of a modem. Scales and states are those of 3GPP TS 27.007.
+MODEM_CONTROL_API Readings convert(const ServiceObjects &objects);
+
+#endif

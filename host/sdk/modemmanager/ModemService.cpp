@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "ModemService.h"
+
+#include "Library.h"
+#include "ServiceWatcher.h"
+
+#include <QThread>
+
+#include <condition_variable>
+
+namespace {
+
+using Lock = std::unique_lock<std::mutex>;
+using Milliseconds = std::chrono::milliseconds;
+
+class Worker : public QThread
+{
+public:
+    Worker(int index, const ServiceWatcher::Report &report)
+        : m_index(index), m_timing(serviceTiming()), m_report(report)
+    {
+    }
+
+protected:
+    void run() override
+    {
+        const ServiceWatcher watcher(m_index, m_timing, m_report);
+        exec();
+    }
+
+private:
+    const int m_index;
+    const ServiceTiming m_timing;
+    const ServiceWatcher::Report m_report;
+};
+
+struct Attachment
+{
+    std::mutex changing; ///< held while the worker is started or stopped
+    std::unique_ptr<Worker> worker;
+
+    std::mutex mutex; ///< guards all below
+    std::condition_variable changed;
+    int index = -1; ///< of the wanted modem, negative when none is
+    ServiceStatus status = ServiceStatus::Starting;
+    std::shared_ptr<ServiceModem> modem;
+    ServiceModem::Clock::time_point validUntil;
+    int confirmation = 0; ///< ms
+
+    void setModem(const std::shared_ptr<ServiceModem> &newModem)
+    {
+        modem = newModem;
+        Library &library = Library::instance();
+        std::lock_guard<std::mutex> lock(library.mutex);
+        library.modem = newModem;
+        library.plugged = newModem != nullptr;
+    }
+
+    void confirm(ServiceStatus newStatus)
+    {
+        status = newStatus;
+        validUntil = ServiceModem::Clock::now() + Milliseconds(confirmation);
+    }
+};
+
+Attachment &attachment()
+{
+    static Attachment attachment;
+    return attachment;
+}
+
+/// What the worker has seen.
+void report(ServiceStatus status, const std::shared_ptr<ServiceModem> &modem)
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    const std::shared_ptr<ServiceModem> before = state.modem;
+    state.confirm(status);
+    state.setModem(modem);
+    lock.unlock();
+    state.changed.notify_all();
+
+    EventDispatcher &events = Library::instance().events;
+    const bool same = before && modem && before->path() == modem->path();
+    if (before && !same)
+        events.raise(VELT_EVENT_DEV_REMOVAL);
+    if (modem && !same)
+        events.raise(VELT_EVENT_DEV_ARRIVAL);
+    if (modem && modem->isReady() && !(same && before->isReady()))
+        events.raise(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
+}
+
+} // namespace
+
+ServiceTiming &serviceTiming()
+{
+    static ServiceTiming timing;
+    return timing;
+}
+
+namespace ModemService {
+
+void attach(int index)
+{
+    detach();
+    Attachment &state = attachment();
+    std::lock_guard<std::mutex> changing(state.changing);
+    {
+        Lock lock(state.mutex);
+        state.index = index;
+        state.confirmation = serviceTiming().confirmation;
+        state.confirm(ServiceStatus::Starting);
+        state.setModem(nullptr);
+        ModemControl::clearResults();
+    }
+    state.worker = std::make_unique<Worker>(index, report);
+    state.worker->start();
+}
+
+void detach()
+{
+    Attachment &state = attachment();
+    std::lock_guard<std::mutex> changing(state.changing);
+    if (!state.worker)
+        return;
+    state.worker->quit();
+    state.worker->wait();
+    state.worker.reset();
+    Lock lock(state.mutex);
+    state.index = -1;
+    state.setModem(nullptr);
+}
+
+bool isPresent(int milliseconds)
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    state.changed.wait_for(lock, Milliseconds(milliseconds),
+                           [&] { return state.status != ServiceStatus::Starting; });
+    return state.modem && state.modem->isValid();
+}
+
+std::string problem()
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    if (state.index < 0)
+        return std::string();
+    if (state.status == ServiceStatus::NoBus)
+        return "The system's message bus does not answer.";
+    if (state.status == ServiceStatus::NoService)
+        return "ModemManager is not running.";
+    if (ServiceModem::Clock::now() > state.validUntil)
+        return "ModemManager has not answered for " + std::to_string(state.confirmation / 1000) +
+               " seconds.";
+    if (state.status == ServiceStatus::Starting)
+        return "ModemManager has not answered yet.";
+    if (!state.modem)
+        return state.index == 0 ? "ModemManager knows no usable modem."
+                                : "ModemManager knows no usable modem with the number " +
+                                      std::to_string(state.index) + ".";
+    return std::string();
+}
+
+std::string value(const std::string &key)
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    return state.modem && state.modem->isValid() ? state.modem->hostValue(key) : std::string();
+}
+
+} // namespace ModemService

@@ -1,0 +1,102 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "ServiceModem.h"
+
+#include "sdk/VeltDevice.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+#define NAME(value, name) name,
+const char *const textKeys[] = {MODEM_TEXT_VALUES(NAME)};
+const char *const numberKeys[] = {MODEM_NUMBER_VALUES(NAME)};
+#undef NAME
+
+template <typename Key, typename Value>
+VELT_ERROR find(const std::map<Key, Value> &values, Key key, Value &value)
+{
+    const auto found = values.find(key);
+    if (found == values.end())
+        return VELT_ERROR_NOT_SUPPORTED;
+    value = found->second;
+    return VELT_SUCCESS;
+}
+
+} // namespace
+
+ServiceModem::ServiceModem(const QString &path, const Readings &readings,
+                           Clock::time_point validUntil)
+    : m_path(path), m_readings(readings), m_validUntil(validUntil)
+{
+}
+
+bool ServiceModem::isReady() const
+{
+    return m_readings.numbers.at(NumberValue::DeviceStatus) == VELT_DEV_STATUS_READY;
+}
+
+std::string ServiceModem::hostValue(const std::string &key) const
+{
+    std::string text;
+    find(m_readings.hostValues, key, text);
+    return text;
+}
+
+VELT_ERROR ServiceModem::check(const char *key) const
+{
+    static const char simGroup[] = "sim/";
+    if (!isValid())
+        return VELT_ERROR_TIMEOUT;
+    return m_readings.simMissing && std::strncmp(key, simGroup, sizeof simGroup - 1) == 0
+               ? VELT_ERROR_NO_SIM
+               : VELT_SUCCESS;
+}
+
+VELT_ERROR ServiceModem::read(TextValue value, std::string &text) const
+{
+    const VELT_ERROR result = check(textKeys[static_cast<size_t>(value)]);
+    return result == VELT_SUCCESS ? find(m_readings.texts, value, text) : result;
+}
+
+VELT_ERROR ServiceModem::read(NumberValue value, int64_t &number) const
+{
+    const VELT_ERROR result = check(numberKeys[static_cast<size_t>(value)]);
+    return result == VELT_SUCCESS || (isValid() && value == NumberValue::SimStatus)
+               ? find(m_readings.numbers, value, number)
+               : result;
+}
+
+VELT_ERROR ServiceModem::readConnection(TextValue value, const std::string &,
+                                        const std::string &profile, std::string &text) const
+{
+    if (!isValid())
+        return VELT_ERROR_TIMEOUT;
+    const auto connection =
+        std::find_if(m_readings.connections.begin(), m_readings.connections.end(),
+                     [&](const Readings::Connection &candidate) {
+                         return profile.empty() || candidate.profile == profile;
+                     });
+    return connection == m_readings.connections.end() ? VELT_ERROR_FAILURE
+                                                      : find(connection->texts, value, text);
+}
+
+VELT_ERROR ServiceModem::readOwnNumber(int32_t index, std::string &name, std::string &number) const
+{
+    int64_t used = 0;
+    const VELT_ERROR result = read(NumberValue::OwnNumbersUsed, used);
+    if (result != VELT_SUCCESS)
+        return result;
+    if (index < 1 || index > used)
+        return VELT_ERROR_BAD_ARGUMENT;
+    name.clear();
+    number = m_readings.ownNumbers[static_cast<size_t>(index - 1)];
+    return VELT_SUCCESS;
+}
+
+VELT_ERROR ServiceModem::setReportMode(int32_t)
+{
+    return isValid() ? VELT_SUCCESS : VELT_ERROR_TIMEOUT;
+}

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SERVICETIMING_H
+#define SERVICETIMING_H
+
+#include "ModemControl.h"
+
+/// How long the service may take; shorter in tests. Read by ModemService::attach().
+struct ServiceTiming
+{
+    int poll = 5000;          ///< between two readings without any change, ms
+    int confirmation = 15000; ///< how long a reading counts, ms
+};
+
+MODEM_CONTROL_API ServiceTiming &serviceTiming();
+
+#endif

@@ -1,0 +1,321 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "ServiceWatcher.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+
+#include <algorithm>
+
+namespace {
+
+const char servicePrefix[] = "org.freedesktop.ModemManager1.";
+const QString service = QStringLiteral("org.freedesktop.ModemManager1");
+const QString servicePath = QStringLiteral("/org/freedesktop/ModemManager1");
+const QString busName = QStringLiteral("libsdk");
+const char objectManager[] = "org.freedesktop.DBus.ObjectManager";
+const char properties[] = "org.freedesktop.DBus.Properties";
+
+const unsigned signalPeriod = 5; // s
+const int collectTime = 100;     // ms; changes come in groups
+
+QVariant toPlain(const QDBusArgument &argument);
+
+QVariant toPlain(const QVariant &value)
+{
+    if (value.userType() == qMetaTypeId<QDBusArgument>()) {
+        // Reading from one that isn't const would be taken for writing.
+        const QDBusArgument argument = value.value<QDBusArgument>();
+        return toPlain(argument);
+    }
+    if (value.userType() == qMetaTypeId<QDBusVariant>())
+        return toPlain(value.value<QDBusVariant>().variant());
+    if (value.userType() == qMetaTypeId<QDBusObjectPath>())
+        return value.value<QDBusObjectPath>().path();
+    return value;
+}
+
+QVariant toPlain(const QDBusArgument &argument)
+{
+    switch (argument.currentType()) {
+    case QDBusArgument::ArrayType: {
+        QVariantList list;
+        argument.beginArray();
+        while (!argument.atEnd())
+            list << toPlain(argument);
+        argument.endArray();
+        return list;
+    }
+    case QDBusArgument::StructureType: {
+        QVariantList list;
+        argument.beginStructure();
+        while (!argument.atEnd())
+            list << toPlain(argument);
+        argument.endStructure();
+        return list;
+    }
+    case QDBusArgument::MapType: {
+        QVariantMap map;
+        argument.beginMap();
+        while (!argument.atEnd()) {
+            argument.beginMapEntry();
+            const QString key = toPlain(argument).toString();
+            map[key] = toPlain(argument);
+            argument.endMapEntry();
+        }
+        argument.endMap();
+        return map;
+    }
+    default:
+        return toPlain(argument.asVariant());
+    }
+}
+
+/// Modems are numbered in the order of their arrival.
+int pathNumber(const QString &path)
+{
+    return path.section(QLatin1Char('/'), -1).toInt();
+}
+
+QString identity(const QVariantMap &modem)
+{
+    const QString equipment = modem.value(QLatin1String("EquipmentIdentifier")).toString();
+    return equipment.isEmpty() ? modem.value(QLatin1String("DeviceIdentifier")).toString()
+                               : equipment;
+}
+
+} // namespace
+
+/// One reading of all objects, which takes several calls.
+struct ServiceWatcher::Reading
+{
+    ServiceStatus status = ServiceStatus::Answering;
+    bool confirmed = true;
+    int outstanding = 0; ///< calls
+    QString path;        ///< the modem's
+    ServiceObjects objects;
+
+    QVariant modem(const char *property) const
+    {
+        return objects.interfaces.value(QStringLiteral("Modem")).value(QLatin1String(property));
+    }
+};
+
+ServiceWatcher::ServiceWatcher(int index, const ServiceTiming &timing, const Report &report)
+    : m_index(index), m_timing(timing), m_report(report), m_bus(busName)
+{
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(collectTime);
+    connect(&m_soon, &QTimer::timeout, this, &ServiceWatcher::read);
+    connect(&m_poll, &QTimer::timeout, this, &ServiceWatcher::read);
+    m_poll.start(m_timing.poll);
+    read();
+}
+
+// The connection stays for the next watcher: the toolkit doesn't bear that one is closed while
+// calls are under way.
+ServiceWatcher::~ServiceWatcher() = default;
+
+bool ServiceWatcher::connectBus()
+{
+    if (m_owner && m_bus.isConnected())
+        return true;
+    m_owner.reset();
+    if (!m_bus.isConnected()) {
+        QDBusConnection::disconnectFromBus(busName);
+        m_bus = QDBusConnection::connectToBus(QDBusConnection::SystemBus, busName);
+    }
+    if (!m_bus.isConnected())
+        return false;
+    const auto connectSignal = [this](const char *interface, const char *signal) {
+        m_bus.connect(service, QString(), QLatin1String(interface), QLatin1String(signal), this,
+                      SLOT(readSoon()));
+    };
+    connectSignal(properties, "PropertiesChanged");
+    connectSignal(objectManager, "InterfacesAdded");
+    connectSignal(objectManager, "InterfacesRemoved");
+    m_owner = std::make_unique<QDBusServiceWatcher>(service, m_bus,
+                                                    QDBusServiceWatcher::WatchForOwnerChange);
+    connect(m_owner.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString &, const QString &, const QString &newOwner) {
+                onServiceOwnerChanged(newOwner);
+            });
+    return true;
+}
+
+void ServiceWatcher::onServiceOwnerChanged(const QString &newOwner)
+{
+    // A service that starts anew counts its objects anew.
+    m_reading.reset();
+    m_messages.clear();
+    m_signalPath.clear();
+    if (newOwner.isEmpty())
+        m_report(ServiceStatus::NoService, nullptr);
+    else
+        readSoon();
+}
+
+void ServiceWatcher::readSoon()
+{
+    if (m_reading)
+        m_changed = true;
+    else if (!m_soon.isActive())
+        m_soon.start();
+}
+
+void ServiceWatcher::read()
+{
+    if (m_reading)
+        return;
+    if (!connectBus()) {
+        m_report(ServiceStatus::NoBus, nullptr);
+        return;
+    }
+    m_changed = false;
+    const auto reading = m_reading = std::make_shared<Reading>();
+    ask(reading, servicePath, objectManager, "GetManagedObjects", {},
+        [=](const QVariant &objects) { choose(reading, objects.toMap()); });
+}
+
+void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, const char *interface,
+                         const char *method, const QVariantList &arguments, const Answer &answer)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(service, path, QLatin1String(interface),
+                                                          QLatin1String(method));
+    message.setArguments(arguments);
+    message.setAutoStartService(false);
+    ++reading->outstanding;
+    auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(message, m_timing.confirmation), this);
+    connect(call, &QDBusPendingCallWatcher::finished, this, [=] {
+        call->deleteLater();
+        if (m_reading != reading)
+            return;
+        const QDBusMessage reply = call->reply();
+        const QDBusError error(reply);
+        if (!error.isValid()) {
+            answer(toPlain(reply.arguments().value(0)));
+        } else if (error.type() == QDBusError::ServiceUnknown ||
+                   error.name() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner")) {
+            reading->status = ServiceStatus::NoService;
+        } else if (error.type() == QDBusError::Disconnected ||
+                   error.type() == QDBusError::NoServer) {
+            reading->status = ServiceStatus::NoBus;
+        } else if (reading->path.isEmpty() || error.type() == QDBusError::NoReply ||
+                   error.type() == QDBusError::TimedOut || error.type() == QDBusError::Timeout) {
+            reading->confirmed = false;
+        } // Else an object has just gone, or has no such value now.
+        if (--reading->outstanding == 0)
+            finish(reading);
+    });
+}
+
+void ServiceWatcher::askProperties(const ReadingPointer &reading, const QString &path,
+                                   const char *interface,
+                                   const std::function<void(const QVariantMap &)> &take)
+{
+    const QString name = QLatin1String(servicePrefix) + QLatin1String(interface);
+    ask(reading, path, properties, "GetAll", {name},
+        [=](const QVariant &values) { take(values.toMap()); });
+}
+
+void ServiceWatcher::choose(const ReadingPointer &reading, const QVariantMap &objects)
+{
+    const QString modemInterface = service + QLatin1String(".Modem");
+    const auto modemAt = [&](const QString &path) {
+        return objects[path].toMap().value(modemInterface).toMap();
+    };
+    QStringList usable;
+    for (const QString &path : objects.keys()) {
+        const QVariantMap modem = modemAt(path);
+        if (!modem.isEmpty() && isUsable(modem))
+            usable << path;
+    }
+    std::sort(usable.begin(), usable.end(), [](const QString &left, const QString &right) {
+        return pathNumber(left) < pathNumber(right);
+    });
+    const auto known = std::find_if(usable.cbegin(), usable.cend(), [&](const QString &path) {
+        return !m_identity.isEmpty() && identity(modemAt(path)) == m_identity;
+    });
+    reading->path = known != usable.cend() ? *known : usable.value(m_index);
+    if (reading->path.isEmpty())
+        return;
+
+    const QVariantMap interfaces = objects[reading->path].toMap();
+    for (auto i = interfaces.begin(); i != interfaces.end(); ++i) {
+        if (i.key().startsWith(QLatin1String(servicePrefix)))
+            reading->objects.interfaces[i.key().mid(sizeof servicePrefix - 1)] = i->toMap();
+    }
+    if (m_identity.isEmpty() && reading->modem("State").toInt() > ModemInitialising)
+        m_identity = identity(modemAt(reading->path));
+    askDetails(reading);
+    setUpSignal(*reading);
+}
+
+void ServiceWatcher::askDetails(const ReadingPointer &reading)
+{
+    ServiceObjects &objects = reading->objects;
+    const QString sim = reading->modem("Sim").toString();
+    if (sim.size() > 1)
+        askProperties(reading, sim, "Sim",
+                      [&objects](const QVariantMap &values) { objects.sim = values; });
+    const QStringList bearers = reading->modem("Bearers").toStringList();
+    for (const QString &path : bearers)
+        askProperties(reading, path, "Bearer",
+                      [&objects](const QVariantMap &values) { objects.bearers << values; });
+    if (objects.interfaces.contains(QStringLiteral("Modem.Location")))
+        ask(reading, reading->path, "org.freedesktop.ModemManager1.Modem.Location", "GetLocation",
+            {}, [&objects](const QVariant &location) { objects.location = location.toMap(); });
+
+    const QStringList messages = objects.interfaces.value(QStringLiteral("Modem.Messaging"))
+                                     .value(QLatin1String("Messages"))
+                                     .toStringList();
+    QMap<QString, QVariantMap> kept;
+    for (const QString &path : messages) {
+        if (m_messages.contains(path))
+            kept[path] = m_messages[path];
+        else
+            askProperties(reading, path, "Sms",
+                          [=](const QVariantMap &values) { m_messages[path] = values; });
+    }
+    m_messages = kept;
+}
+
+/// The one request that changes something.
+void ServiceWatcher::setUpSignal(const Reading &reading)
+{
+    const QString interface = QStringLiteral("Modem.Signal");
+    const QVariantMap signal = reading.objects.interfaces.value(interface);
+    if (reading.path == m_signalPath || signal.isEmpty() ||
+        reading.modem("State").toInt() < ModemEnabled)
+        return;
+    m_signalPath = reading.path;
+    if (signal.value(QLatin1String("Rate")).toUInt() != 0)
+        return;
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        service, reading.path, QLatin1String(servicePrefix) + interface, QStringLiteral("Setup"));
+    message.setArguments({signalPeriod});
+    m_bus.send(message);
+}
+
+void ServiceWatcher::finish(const ReadingPointer &reading)
+{
+    m_reading.reset();
+    if (reading->status != ServiceStatus::Answering) {
+        m_report(reading->status, nullptr);
+    } else if (reading->confirmed) {
+        std::shared_ptr<ServiceModem> modem;
+        if (!reading->path.isEmpty()) {
+            reading->objects.messages = m_messages.values();
+            modem = std::make_shared<ServiceModem>(
+                reading->path, convert(reading->objects),
+                ServiceModem::Clock::now() + std::chrono::milliseconds(m_timing.confirmation));
+        }
+        m_report(ServiceStatus::Answering, modem);
+    }
+    if (m_changed)
+        readSoon();
+}

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef SERVICEWATCHER_H
+#define SERVICEWATCHER_H
+
+#include "ServiceModem.h"
+#include "ServiceTiming.h"
+
+#include <QDBusConnection>
+#include <QDBusError>
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+class QDBusServiceWatcher;
+
+enum class ServiceStatus
+{
+    Starting, ///< no answer yet
+    NoBus,
+    NoService,
+    Answering
+};
+
+/// Watches the service and reports what it tells: at once, after each change, and every few
+/// seconds in between. Lives in a thread of its own, which no call to the service holds up.
+class ServiceWatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Takes the modem, if there is one.
+    using Report = std::function<void(ServiceStatus, std::shared_ptr<ServiceModem>)>;
+
+    /// \a index is the number of the modem to take among the usable ones.
+    ServiceWatcher(int index, const ServiceTiming &timing, const Report &report);
+    ~ServiceWatcher() override;
+
+private slots:
+    /// Reads all objects. A reading that is running is left to end.
+    void read();
+    void readSoon();
+
+private:
+    struct Reading;
+    using ReadingPointer = std::shared_ptr<Reading>;
+    /// Takes the first argument of an answer, in plain types.
+    using Answer = std::function<void(const QVariant &)>;
+
+    bool connectBus();
+    void onServiceOwnerChanged(const QString &newOwner);
+    void ask(const ReadingPointer &reading, const QString &path, const char *interface,
+             const char *method, const QVariantList &arguments, const Answer &answer);
+    void askProperties(const ReadingPointer &reading, const QString &path, const char *interface,
+                       const std::function<void(const QVariantMap &)> &take);
+    void choose(const ReadingPointer &reading, const QVariantMap &objects);
+    void askDetails(const ReadingPointer &reading);
+    void setUpSignal(const Reading &reading);
+    void finish(const ReadingPointer &reading);
+
+    const int m_index;
+    const ServiceTiming m_timing;
+    const Report m_report;
+    QDBusConnection m_bus;
+    std::unique_ptr<QDBusServiceWatcher> m_owner;
+    QTimer m_poll;
+    QTimer m_soon;
+    ReadingPointer m_reading;              ///< the one that is running
+    bool m_changed = false;                ///< since it began
+    QString m_identity;                    ///< of the modem that was taken first
+    QString m_signalPath;                  ///< of the modem whose signal was set up
+    QMap<QString, QVariantMap> m_messages; ///< by path; a message doesn't change
+};
+
+#endif

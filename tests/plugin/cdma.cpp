@@ -232,6 +232,10 @@ void CdmaTest::shownTwice()
     QCOMPARE(show(), 1);
     QCOMPARE(DiagnosticsCdmaUI::CreateInstance(), instance);
     QVERIFY(first && first->isVisible()); // dropped, not deleted
+    const auto frames =
+        m_parent->findChildren<QFrame *>(QLatin1String("DiagnosticsUIPlugin_frameCdmaDiag"));
+    QCOMPARE(frames.size(), 2);
+    QCOMPARE(frames.at(1)->height(), 12 * 35); // the rows are counted anew
     QVERIFY(instance->CloseCdmaDiagWidget());
     settle();
     QVERIFY(!instance->visible());

@@ -6,6 +6,7 @@
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsRow.h"
 #include "DiagnosticsToolkit.h"
 #include "DiagnosticsUILogic.h"
 
@@ -76,21 +77,6 @@ const ValueRow ValueRows[] = {
     {EsnKey,            &DiagnosticsUILogic::GetEsn},
 };
 // clang-format on
-
-QString captionName(const QString &key)
-{
-    return QLatin1String("DiagnosticsUIPlugin_label") + key;
-}
-
-QString valueName(const QString &key)
-{
-    return captionName(key) + QLatin1String("Value");
-}
-
-QLabel *captionLabel(const QWidget *widget, const QString &key)
-{
-    return widget->findChild<QLabel *>(captionName(key));
-}
 
 } // namespace
 
@@ -331,13 +317,9 @@ int DiagnosticsCdmaUI::createCdmaLabels()
         int rowHeight = 0;
         CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
         caption->setMinimumSize(CaptionWidth, rowHeight);
-        caption->setObjectName(captionName(key));
-        // A text from the device must not be read as markup.
-        value->setTextFormat(Qt::PlainText);
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        DiagnosticsRow::setUp(caption, value, key);
         value->setText(getLabelValuebyName(key));
         value->setFixedHeight(rowHeight);
-        value->setObjectName(valueName(key));
         layout->addRow(caption, value);
     }
     if (layout)
@@ -405,14 +387,10 @@ QString DiagnosticsCdmaUI::getLabelValuebyName(QString key)
 void DiagnosticsCdmaUI::changeSimString()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
-    const char *const simKeys[] = {SimMessagesKey, SimContactsKey};
-    for (const char *key : simKeys) {
-        QLabel *caption = captionLabel(m_pwidgetCdmaDiagnostic, QLatin1String(key));
-        if (caption)
-            caption->setText(
-                caption->text().replace(QLatin1String("SIM/USIM"), QLatin1String("UIM")));
-    }
-    QLabel *esn = captionLabel(m_pwidgetCdmaDiagnostic, QLatin1String(EsnKey));
+    for (const char *key : {SimMessagesKey, SimContactsKey})
+        DiagnosticsRow::replaceSimWording(m_pwidgetCdmaDiagnostic, QLatin1String(key),
+                                          QLatin1String("UIM"));
+    QLabel *esn = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, QLatin1String(EsnKey));
     if (m_bPesn && esn)
         esn->setText(tr(QLatin1String("IDS_MAINFRM_PESN")));
 }
@@ -425,7 +403,7 @@ void DiagnosticsCdmaUI::onRefreshClicked()
         return;
     }
     for (const QString &key : *m_plistCdma) {
-        QLabel *value = m_pwidgetCdmaDiagnostic->findChild<QLabel *>(valueName(key));
+        QLabel *value = DiagnosticsRow::value(m_pwidgetCdmaDiagnostic, key);
         if (value)
             value->setText(getLabelValuebyName(key));
     }
@@ -459,7 +437,7 @@ int DiagnosticsCdmaUI::saveFile(QString fileName)
         setUtf8(stream);
         for (const QString &key : *m_plistCdma) {
             const QString value = getLabelValuebyName(key);
-            const QLabel *caption = captionLabel(m_pwidgetCdmaDiagnostic, key);
+            const QLabel *caption = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, key);
             if (caption)
                 stream << caption->text() << " " << value << endLine << endLine;
         }

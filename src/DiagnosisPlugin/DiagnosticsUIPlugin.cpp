@@ -7,6 +7,7 @@
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsRow.h"
 #include "DiagnosticsUILogic.h"
 
 #include "core/Change.h"
@@ -51,7 +52,6 @@ const int CaptionWidth = 185;
 const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
 const char SimMessagesItem[] = "Messages in SIM/USIM";
 const char SimContactsItem[] = "Contacts in SIM/USIM";
-const char SimWording[] = "SIM/USIM";
 
 // clang-format off
 const ValueRow DeviceRows[] = {
@@ -108,16 +108,6 @@ const ValueRow *findRow(const ValueRow (&rows)[size], const QString &itemName)
 QString pageName(const TabDetails &tab)
 {
     return QLatin1String("DiagnosticsUIPlugin_") + tab.name + QLatin1String("Tab");
-}
-
-QString captionName(const QString &itemName)
-{
-    return QLatin1String("DiagnosticsUIPlugin_label") + itemName;
-}
-
-QString valueName(const QString &itemName)
-{
-    return captionName(itemName) + QLatin1String("Value");
 }
 
 /// The two rows that are read without a device too; their values come from the host.
@@ -519,12 +509,8 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
         }
         caption->setText(tr(item.resourceID));
         caption->setFixedWidth(CaptionWidth);
-        caption->setObjectName(captionName(item.name));
-        value->setObjectName(valueName(item.name));
+        DiagnosticsRow::setUp(caption, value, item.name);
         value->setWordWrap(true);
-        // A text from the air must not be read as markup.
-        value->setTextFormat(Qt::PlainText);
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         layout->addRow(caption, value);
     }
     if (layout)
@@ -547,7 +533,7 @@ int DiagnosticsUIPlugin::applyDeviceCustomization()
         return Missing;
     }
     const QString simText = customization->value(QLatin1String("simmsgprompt"));
-    if (simText == QLatin1String(SimWording)) {
+    if (simText == QLatin1String("SIM/USIM")) {
         qDebug("%s: %s: %s: No customization for Device: ", LOG_AT);
         return Success;
     }
@@ -563,17 +549,9 @@ int DiagnosticsUIPlugin::applyDeviceCustomization()
         }
     }
     m_ptabWidgetDiag->setTabText(simTab, simText);
-    replaceSimText(SimMessagesItem, simText);
-    replaceSimText(SimContactsItem, simText);
+    for (const char *item : {SimMessagesItem, SimContactsItem})
+        DiagnosticsRow::replaceSimWording(m_ptabWidgetDiag, QLatin1String(item), simText);
     return Success;
-}
-
-/// Puts the device's wording into the caption of a row, if the row is there.
-void DiagnosticsUIPlugin::replaceSimText(const char *itemName, const QString &simText)
-{
-    QLabel *caption = m_ptabWidgetDiag->findChild<QLabel *>(captionName(QLatin1String(itemName)));
-    if (caption)
-        caption->setText(caption->text().replace(QLatin1String(SimWording), simText));
 }
 
 // ---- Filling the tabs ----
@@ -592,7 +570,7 @@ void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QWidget *labels)
     for (const TabItem &item : *tab.items) {
         if (!item.show)
             continue;
-        QLabel *label = labels->findChild<QLabel *>(valueName(item.name));
+        QLabel *label = DiagnosticsRow::value(labels, item.name);
         if (!label)
             continue;
         QString value;

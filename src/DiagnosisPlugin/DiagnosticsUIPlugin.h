@@ -98,7 +98,6 @@ private:
     int dynamicTabCreation();
     int createTab(TabDetails *tab);
     int applyDeviceCustomization();
-    void replaceSimText(const char *itemName, const QString &simText);
 
     bool isMarkable(int index) const;
     void showRows(const TabDetails &tab, QWidget *labels);

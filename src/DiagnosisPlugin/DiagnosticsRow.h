@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef DIAGNOSTICSROW_H
+#define DIAGNOSTICSROW_H
+
+#include <QString>
+
+class QLabel;
+class QWidget;
+
+/// What the rows of both windows have in common: a caption and a value label, which are found again
+/// by their object names. GUI thread.
+class DiagnosticsRow
+{
+public:
+    /// Names the two labels after the row and prepares the value for texts that are not ours.
+    static void setUp(QLabel *caption, QLabel *value, const QString &rowName);
+
+    /// The labels of a row below a widget; null where there is none.
+    static QLabel *caption(const QWidget *below, const QString &rowName);
+    static QLabel *value(const QWidget *below, const QString &rowName);
+
+    /// Puts another wording in place of "SIM/USIM" in the caption of a row, if there is such a row.
+    static void replaceSimWording(const QWidget *below, const QString &rowName,
+                                  const QString &wording);
+};
+
+#endif

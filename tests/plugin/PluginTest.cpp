@@ -97,3 +97,59 @@ void PluginTest::compareWithGolden(const QString &file, const QStringList &lines
     QCOMPARE(QString::fromUtf8(spoken).split(QLatin1Char('\n')),
              QString::fromUtf8(expected).split(QLatin1Char('\n')));
 }
+
+QStringList PluginTest::perform(const QString &command, const QString &argument)
+{
+    if (command == QLatin1String("configuration"))
+        m_host->write("DiagnosisConfig.xml", argument.toUtf8());
+    else if (command == QLatin1String("language"))
+        setLanguage(argument.toLatin1().constData());
+    else if (command == QLatin1String("modem"))
+        attachModem(argument.toLatin1().constData());
+    else if (command == QLatin1String("set"))
+        setValues(argument);
+    else if (command == QLatin1String("fail"))
+        ModemControl::setResult(argument.toStdString(), 1);
+    else if (command == QLatin1String("open"))
+        open();
+    else if (command == QLatin1String("visit"))
+        tabs()->setCurrentIndex(argument.toInt());
+    else if (command == QLatin1String("refresh"))
+        (button("Refresh") ? button("Refresh") : button("CdmaRefresh"))->click();
+    else if (command == QLatin1String("rows"))
+        return flatten(m_parent);
+    else if (command == QLatin1String("unplug"))
+        ModemControl::unplug();
+    else if (command == QLatin1String("plug"))
+        ModemControl::plug();
+    else
+        return QStringList(QLatin1String("no such command"));
+    ModemControl::waitForEvents(10000);
+    settle();
+    return takeCalls();
+}
+
+void PluginTest::play(const QString &file, const QString &section)
+{
+    QFile script(QLatin1String(TEST_SOURCE_DIR "/") + file);
+    QVERIFY(script.open(QIODevice::ReadOnly));
+    QStringList expected;
+    QStringList actual;
+    bool inSection = false;
+    for (const QString &line : QString::fromUtf8(script.readAll()).split(QLatin1Char('\n'))) {
+        if (line.startsWith(QLatin1Char('[')))
+            inSection = line == QLatin1Char('[') + section + QLatin1Char(']');
+        if (!inSection || line.isEmpty() || line.startsWith(QLatin1Char('[')) ||
+            line.startsWith(QLatin1Char('#')))
+            continue;
+        expected.append(line);
+        if (line.startsWith(QLatin1Char(' ')))
+            continue;
+        actual.append(line);
+        for (const QString &outcome :
+             perform(line.section(QLatin1Char(' '), 0, 0), line.section(QLatin1Char(' '), 1)))
+            actual.append(QLatin1String("    ") + outcome);
+    }
+    QCOMPARE(actual, expected);
+    QVERIFY(!actual.isEmpty());
+}

@@ -36,19 +36,18 @@ class WindowTest : public PluginTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { setUp(); }
+    void init()
+    {
+        setUp();
+        m_host->write("host.ini", "[version]\nversion=2.1\n");
+        HostCore::setSettingsFile(path("host.ini"));
+    }
     void cleanup() { tearDown(); }
 
     void widgets();
-    void shippedConfiguration();
     void everyNameIsKnown();
-    void costOfActions();
-    void networkStatusInAnotherLanguage();
-    void hiddenAndDoubleRows();
-    void captionLookups();
-    void unavailableDevice();
-    void customization_data() { addRows(TEST_SOURCE_DIR "/window.txt", "customization"); }
-    void customization();
+    void actions_data() { addRows(TEST_SOURCE_DIR "/window.txt", "actions"); }
+    void actions();
     void saveButton_data() { addRows(TEST_SOURCE_DIR "/window.txt", "save button"); }
     void saveButton();
     void noCustomizationOpensWindow();
@@ -99,16 +98,6 @@ void WindowTest::widgets()
     QCOMPARE(captions.size(), 2 * 31);
 }
 
-void WindowTest::shippedConfiguration()
-{
-    open();
-    QStringList rows = flatten(diagnosticsWindow());
-    for (int index = 1; index < tabs()->count(); ++index)
-        tabs()->setCurrentIndex(index);
-    rows.append(QString());
-    compareWithGolden(QLatin1String("window.shipped"), rows + flatten(diagnosticsWindow()));
-}
-
 /// Each name of the shipped file has a value of its own, and all that the dispatch knows is
 /// shipped.
 void WindowTest::everyNameIsKnown()
@@ -143,142 +132,11 @@ void WindowTest::everyNameIsKnown()
     QCOMPARE(rows, 31);
 }
 
-/// The SDK calls that each action costs.
-void WindowTest::costOfActions()
-{
-    open(TwoTabs);
-    const QStringList imei = list("VELT_DevSrv_GetImeiInfo()");
-    const QStringList rscp = list("VELT_NetSrv_GetSignalQuality()");
-    QCOMPARE(takeCalls(), list("VELT_DevSrv_GetProductType()") + imei);
-    tabs()->setCurrentIndex(1);
-    QCOMPARE(takeCalls(), rscp);
-    m_log->takeLog();
-    tabs()->setCurrentIndex(0);
-    QCOMPARE(takeCalls(), QStringList());
-    QCOMPARE(m_log->takeLog(),
-             list("TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: onTabChange: called"));
-    tabs()->setCurrentIndex(1);
-    QCOMPARE(takeCalls(), rscp); // the network status is read on each visit
-    ModemControl::setValue("device/imei", "1");
-    ModemControl::setValue("network/rscp", "-1");
-    button("Refresh")->click();
-    QCOMPARE(takeCalls(), rscp);
-    QCOMPARE(flatten(diagnosticsWindow()),
-             list("[Device]|IMEI = 001017003100016|[Network status]|RSCP = -1"));
-    tabs()->setCurrentIndex(0);
-    button("Refresh")->click();
-    QCOMPARE(takeCalls(), imei);
-    tabs()->setCurrentIndex(1);
-    tabs()->setCurrentIndex(0);
-    QCOMPARE(takeCalls(), rscp); // Refresh changed no mark
-}
-
-void WindowTest::networkStatusInAnotherLanguage()
-{
-    setLanguage("de");
-    open(TwoTabs);
-    tabs()->setCurrentIndex(1);
-    takeCalls();
-    tabs()->setCurrentIndex(0);
-    tabs()->setCurrentIndex(1);
-    QCOMPARE(takeCalls(), QStringList());
-}
-
-void WindowTest::hiddenAndDoubleRows()
-{
-    open("<veltdoc><tab name='SIM/USIM' resourceID='IDS_TAB_SIM' show='false'>"
-         "<item name='ICCID' resourceID='IDS_DIAGNOSE_ICCID'/></tab>"
-         "<tab name='Device' resourceID='IDS_TAB_DEVICE'>"
-         "<item name='IMEI' resourceID='IDS_DIAGNOSE_IMEI'/>"
-         "<item name='Serial number' resourceID='IDS_DIAGNOSE_SERIAL_NUMBER' show='false'/>"
-         "<item name='IMEI' resourceID='IDS_DIAGNOSE_IMEI'/></tab>"
-         "<tab name='Empty' resourceID='IDS_TAB_NETWORK_SETTINGS'/>"
-         "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
-    tabs()->setCurrentIndex(1);
-    tabs()->setCurrentIndex(0);
-    QCOMPARE(flatten(diagnosticsWindow()),
-             list("[Device]|IMEI = 001017003100016|IMEI = |[Network settings]"));
-    QCOMPARE(takeCalls().count(QLatin1String("VELT_DevSrv_GetImeiInfo()")), 2);
-    QCOMPARE(takeCalls().size(), 0);
-}
-
-/// A tab change takes the first caption that contains the tab's, Refresh only an equal one.
-void WindowTest::captionLookups()
-{
-    // "Device" is contained in "Device name", letter case ignored.
-    open("<veltdoc><tab name='Network status' resourceID='IDS_DIAGNOSE_DEVICE_NAME'>"
-         "<item name='RSCP' resourceID='IDS_DIAGNOSE_RSCP'/></tab>"
-         "<tab name='Device' resourceID='IDS_TAB_DEVICE'>"
-         "<item name='IMEI' resourceID='IDS_DIAGNOSE_IMEI'/></tab>"
-         "<tab name='Same caption' resourceID='IDS_TAB_DEVICE'>"
-         "<item name='Serial number' resourceID='IDS_DIAGNOSE_SERIAL_NUMBER'/></tab>"
-         "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
-    const QStringList rscp = list("VELT_NetSrv_GetSignalQuality()");
-    const QStringList imei = list("VELT_DevSrv_GetImeiInfo()");
-    takeCalls();
-    tabs()->setCurrentIndex(1);
-    QCOMPARE(takeCalls(), rscp);
-    button("Refresh")->click();
-    QCOMPARE(takeCalls(), imei);
-    tabs()->setCurrentIndex(2);
-    QCOMPARE(takeCalls(), rscp);
-    button("Refresh")->click();
-    QCOMPARE(takeCalls(), imei); // of two equal captions the first
-    QCOMPARE(flatten(diagnosticsWindow()).last(), QString::fromLatin1("Serial number = "));
-}
-
-void WindowTest::unavailableDevice()
-{
-    m_host->write("host.ini", "[version]\nversion=2.1\n");
-    HostCore::setSettingsFile(m_host->folder() + QLatin1String("host.ini"));
-    open("<veltdoc><tab name='Device' resourceID='IDS_TAB_DEVICE'>"
-         "<item name='IMEI' resourceID='IDS_DIAGNOSE_IMEI'/>"
-         "<item name='Software version' resourceID='IDS_DIAGNOSE_SOFTWARE_VERSION'/></tab>"
-         "<tab name='Network status' resourceID='IDS_TAB_NETWORK_STATUS'>"
-         "<item name='RSCP' resourceID='IDS_DIAGNOSE_RSCP'/></tab>"
-         "<common><simmsgprompt>SIM/USIM</simmsgprompt></common></veltdoc>");
-    const QStringList present =
-        list("[Device]|IMEI = 001017003100016|Software version = 2.1|[Network status]|RSCP = ");
-    QCOMPARE(flatten(diagnosticsWindow()), present);
-
-    ModemControl::unplug();
-    QVERIFY(ModemControl::waitForEvents(10000));
-    settle();
-    takeCalls();
-    QCOMPARE(flatten(diagnosticsWindow()), present); // an event alone changes no row
-    tabs()->setCurrentIndex(1);
-    tabs()->setCurrentIndex(0);
-    button("Refresh")->click();
-    QCOMPARE(takeCalls(), QStringList());
-    QCOMPARE(
-        flatten(diagnosticsWindow()),
-        list("[Device]|IMEI = Unknown|Software version = 2.1|[Network status]|RSCP = Unknown"));
-
-    ModemControl::plug();
-    QVERIFY(ModemControl::waitForEvents(10000));
-    settle();
-    button("Refresh")->click();
-    tabs()->setCurrentIndex(1);
-    QCOMPARE(
-        flatten(diagnosticsWindow()),
-        list("[Device]|IMEI = 001017003100016|Software version = 2.1|[Network status]|RSCP = -87"));
-}
-
-void WindowTest::customization()
+/// What each action costs in SDK calls, and what it shows.
+void WindowTest::actions()
 {
     QFETCH(QStringList, fields);
-    const QByteArray simTab = fields.at(1).toLatin1();
-    open("<veltdoc><tab name='Device' resourceID='IDS_TAB_DEVICE'/>"
-         "<tab name='SIM/USIM' resourceID='" +
-         simTab +
-         "'>"
-         "<item name='Messages in SIM/USIM' resourceID='IDS_DIAGNOSE_SIM_MESSAGES'/>"
-         "<item name='Contacts in SIM/USIM' resourceID='IDS_DIAGNOSE_SIM_CONTACTS'/></tab>" +
-         fields.at(2).toLatin1() + "</veltdoc>");
-    QCOMPARE(flatten(diagnosticsWindow()).join(QLatin1Char(',')), fields.at(3));
-    tabs()->setCurrentIndex(1);
-    button("Refresh")->click();
-    QCOMPARE(flatten(diagnosticsWindow()).last().section(QLatin1String(" = "), 1), fields.at(4));
+    play(QLatin1String("window.actions"), fields.at(0));
 }
 
 void WindowTest::saveButton()

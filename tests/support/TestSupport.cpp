@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFormLayout>
+#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -193,18 +194,24 @@ QWidget *diagnosticsWindow()
 QStringList flatten(QWidget *window)
 {
     QStringList rows;
+    const auto addForm = [&rows](const QWidget *page) {
+        const auto *form = qobject_cast<QFormLayout *>(page->layout());
+        const auto text = [form](int row, QFormLayout::ItemRole role) {
+            return qobject_cast<QLabel *>(form->itemAt(row, role)->widget())->text();
+        };
+        for (int row = 0; form && row < form->rowCount(); ++row)
+            rows.append(text(row, QFormLayout::LabelRole) + QLatin1String(" = ") +
+                        text(row, QFormLayout::FieldRole));
+    };
+    const auto *frame =
+        window->findChild<QFrame *>(QLatin1String("DiagnosticsUIPlugin_frameCdmaDiag"));
+    if (frame)
+        addForm(frame);
     const auto *tabs =
         window->findChild<QTabWidget *>(QLatin1String("DiagnosticsUIPlugin_tabWidgetDiag"));
-    for (int index = 0; index < tabs->count(); ++index) {
+    for (int index = 0; tabs && index < tabs->count(); ++index) {
         rows.append(QLatin1Char('[') + tabs->tabText(index) + QLatin1Char(']'));
-        const auto *form = qobject_cast<QFormLayout *>(tabs->widget(index)->layout());
-        for (int row = 0; form && row < form->rowCount(); ++row) {
-            const auto *caption =
-                qobject_cast<QLabel *>(form->itemAt(row, QFormLayout::LabelRole)->widget());
-            const auto *value =
-                qobject_cast<QLabel *>(form->itemAt(row, QFormLayout::FieldRole)->widget());
-            rows.append(caption->text() + QLatin1String(" = ") + value->text());
-        }
+        addForm(tabs->widget(index));
     }
     return rows;
 }

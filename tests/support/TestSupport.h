@@ -69,8 +69,8 @@ private:
 /// The open tabbed window, or null.
 QWidget *diagnosticsWindow();
 
-/// The window as text: "[title]" for each tab and "caption = value" for each of its rows; without
-/// visiting any tab.
+/// A diagnostics window, or that below a widget, as text: "[title]" for each tab and "caption =
+/// value" for each row; without visiting any tab.
 QStringList flatten(QWidget *window);
 
 /// Answers an open file dialog with a path.

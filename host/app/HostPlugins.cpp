@@ -4,6 +4,7 @@
 #include "HostPlugins.h"
 
 #include "ModemControl.h"
+#include "ModemSource.h"
 
 namespace {
 
@@ -15,11 +16,10 @@ enum Result
 
 int readValue(const char *key, QString &value)
 {
-    const std::string text = ModemControl::isPlugged() ? ModemControl::value(key) : std::string();
-    if (text.empty())
+    const QString text = ModemControl::isPlugged() ? ModemSource::value(key) : QString();
+    if (text.isEmpty())
         return Failure;
-    // The encoding of all texts of the device.
-    value = QString::fromLatin1(text.c_str());
+    value = text;
     return Success;
 }
 

@@ -12,8 +12,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-MainWindow::MainWindow(const QString &modemName, const PluginLoader &plugin)
-    : m_plugin(plugin), m_modem(modemName), m_message(new QLabel)
+MainWindow::MainWindow(const ModemSource &modem, const PluginLoader &plugin)
+    : m_plugin(plugin), m_modem(modem), m_message(new QLabel)
 {
     setWindowTitle(tr("Diagnosis host"));
     setObjectName(QStringLiteral("MainWindow"));

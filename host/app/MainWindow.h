@@ -14,8 +14,8 @@ class MainWindow : public QWidget
     Q_OBJECT
 
 public:
-    /// \a plugin must be started and outlive the window.
-    MainWindow(const QString &modemName, const PluginLoader &plugin);
+    /// \a plugin must be started; it and \a modem must outlive the window.
+    MainWindow(const ModemSource &modem, const PluginLoader &plugin);
 
     /// Opens the diagnostics window. False when it could not be opened, which the window then says.
     bool openDiagnostics();

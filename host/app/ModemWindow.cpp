@@ -4,16 +4,18 @@
 #include "ModemWindow.h"
 
 #include "ModemControl.h"
+#include "ModemSource.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
-ModemWindow::ModemWindow(const QString &modemName)
-    : m_state(new QLabel), m_plugIn(new QPushButton(tr("&Plug in"))),
-      m_unplug(new QPushButton(tr("&Unplug")))
+ModemWindow::ModemWindow(const ModemSource &modem)
+    : m_modem(modem), m_description(new QLabel), m_state(new QLabel),
+      m_plugIn(new QPushButton(tr("&Plug in"))), m_unplug(new QPushButton(tr("&Unplug")))
 {
     setWindowTitle(tr("Modem"));
     // The program ends with the host's window, not with this one.
@@ -21,13 +23,11 @@ ModemWindow::ModemWindow(const QString &modemName)
     m_state->setObjectName(QStringLiteral("ModemWindow_labelState"));
     m_plugIn->setObjectName(QStringLiteral("ModemWindow_pushButtonPlugIn"));
     m_unplug->setObjectName(QStringLiteral("ModemWindow_pushButtonUnplug"));
+    m_description->setTextFormat(Qt::PlainText);
 
-    const std::string description = ModemControl::value("modem/description");
-    auto *const descriptionLabel = new QLabel(QString::fromLatin1(description.c_str()));
-    descriptionLabel->setTextFormat(Qt::PlainText);
     auto *const form = new QFormLayout;
-    form->addRow(tr("Name"), new QLabel(modemName));
-    form->addRow(tr("Description"), descriptionLabel);
+    form->addRow(tr("Name"), new QLabel(modem.name()));
+    form->addRow(tr("Description"), m_description);
     form->addRow(tr("State"), m_state);
 
     auto *const buttons = new QHBoxLayout;
@@ -41,9 +41,18 @@ ModemWindow::ModemWindow(const QString &modemName)
     layout->addLayout(form);
     layout->addStretch();
     layout->addLayout(buttons);
+    setMinimumWidth(400);
 
     connect(m_plugIn, &QPushButton::clicked, this, &ModemWindow::plug);
     connect(m_unplug, &QPushButton::clicked, this, &ModemWindow::unplug);
+    if (!modem.isSimulated()) {
+        // A real modem comes and goes by itself.
+        m_plugIn->hide();
+        m_unplug->hide();
+        auto *const look = new QTimer(this);
+        connect(look, &QTimer::timeout, this, &ModemWindow::showState);
+        look->start(1000);
+    }
     showState();
 }
 
@@ -64,7 +73,9 @@ void ModemWindow::unplug()
 void ModemWindow::showState()
 {
     const bool plugged = ModemControl::isPlugged();
-    m_state->setText(plugged ? tr("Plugged in") : tr("Unplugged"));
+    const QString problem = m_modem.problem();
+    m_description->setText(m_modem.description());
+    m_state->setText(!problem.isEmpty() ? problem : plugged ? tr("Plugged in") : tr("Unplugged"));
     m_plugIn->setEnabled(!plugged);
     m_unplug->setEnabled(plugged);
 }

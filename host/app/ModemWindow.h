@@ -6,23 +6,27 @@
 
 #include <QWidget>
 
+class ModemSource;
 class QLabel;
 class QPushButton;
 
-/// The hand that plugs the simulated modem in and out. A window of its own, because the diagnostics
-/// window blocks the host's.
+/// Which modem it is and how it is, and the hand that plugs a simulated one in and out. A window of
+/// its own, because the diagnostics window blocks the host's.
 class ModemWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit ModemWindow(const QString &modemName);
+    /// \a modem must outlive the window.
+    explicit ModemWindow(const ModemSource &modem);
 
 private:
     void plug();
     void unplug();
     void showState();
 
+    const ModemSource &m_modem;
+    QLabel *m_description;
     QLabel *m_state;
     QPushButton *m_plugIn;
     QPushButton *m_unplug;

@@ -6,7 +6,7 @@
 #include "HostPlugins.h"
 #include "Log.h"
 #include "MainWindow.h"
-#include "ModemControl.h"
+#include "ModemSource.h"
 #include "PluginLoader.h"
 
 #include <QApplication>
@@ -31,7 +31,7 @@ enum ExitCode
     FileNotWritten = 6
 };
 
-const char description[] = "Host of the diagnostics plug-in, with a simulated modem.\n"
+const char description[] = "Host of the diagnostics plug-in, on a simulated or a real modem.\n"
                            "\n"
                            "Exit codes:\n"
                            "  0  success\n"
@@ -45,7 +45,6 @@ const char description[] = "Host of the diagnostics plug-in, with a simulated mo
 /// What the command line asks for.
 struct Request
 {
-    QString modem;
     QString tab;
     QString screenshot;
     bool open;
@@ -71,14 +70,6 @@ QString hostFolder(const char *relative)
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + QLatin1String("/../") +
                            QLatin1String(relative));
-}
-
-QStringList modemsIn(const QString &folder)
-{
-    QStringList names = QDir(folder).entryList({QStringLiteral("*.ini")}, QDir::Files);
-    names.replaceInStrings(QStringLiteral(".ini"), QString());
-    names.sort();
-    return names;
 }
 
 /// Without a wish the language of the system, if the host has it.
@@ -131,7 +122,7 @@ int showDiagnostics(MainWindow &window, const Request &request)
 }
 
 /// The host's life, from the attached modem to the end of its windows.
-int run(const Request &request)
+int run(const ModemSource &modem, const Request &request)
 {
     const HostPlugins hostPlugins;
     PluginLoader plugin(hostFolder(HOST_LIBRARY_DIR) +
@@ -139,7 +130,9 @@ int run(const Request &request)
     if (!plugin.start())
         return fail(exitCode(plugin.state()), plugin.error());
 
-    MainWindow window(request.modem, plugin);
+    if (!modem.problem().isEmpty())
+        std::fprintf(stderr, "diagnosis-host: %s\n", qUtf8Printable(modem.problem()));
+    MainWindow window(modem, plugin);
     window.show();
     if (request.open) {
         const int code = showDiagnostics(window, request);
@@ -170,8 +163,13 @@ int main(int argc, char *argv[])
     parser.setApplicationDescription(QLatin1String(description));
     const QString name = QStringLiteral("name");
     const QString file = QStringLiteral("file");
-    const QCommandLineOption modem(QStringLiteral("modem"), QStringLiteral("Attach this modem."),
-                                   name, QStringLiteral("wcdma"));
+    const QCommandLineOption modem(
+        QStringLiteral("modem"),
+        QStringLiteral(
+            "Attach this modem: a simulated one, \"modemmanager\" for the first modem of the "
+            "system's service, \"modemmanager:1\" for the second, or \"auto\" (the default) "
+            "for the service's where there is one and a simulated one otherwise."),
+        name, QStringLiteral("auto"));
     const QCommandLineOption listModems(QStringLiteral("list-modems"),
                                         QStringLiteral("List the modems and exit."));
     const QCommandLineOption language(
@@ -208,10 +206,9 @@ int main(int argc, char *argv[])
                                     .arg(parser.positionalArguments().constFirst()));
 
     const QString data = hostFolder(HOST_DATA_DIR);
-    const QString modemFolder = data + QLatin1String("/modems");
-    const QStringList modems = modemsIn(modemFolder);
+    ModemSource source(data + QLatin1String("/modems"));
     if (parser.isSet(listModems)) {
-        for (const QString &known : modems)
+        for (const QString &known : source.names())
             std::puts(qUtf8Printable(known));
         return Success;
     }
@@ -226,19 +223,13 @@ int main(int argc, char *argv[])
     HostCore::setSettingsFile(data + QLatin1String("/host.ini"));
     HostCore::applyLook(application);
 
-    const Request request{parser.value(modem), parser.isSet(tab) ? parser.value(tab) : QString(),
+    const Request request{parser.isSet(tab) ? parser.value(tab) : QString(),
                           parser.isSet(screenshot) ? parser.value(screenshot) : QString(),
                           parser.isSet(open) || parser.isSet(tab) || parser.isSet(print) ||
                               parser.isSet(screenshot),
                           parser.isSet(print)};
-    if (!modems.contains(request.modem))
-        return failUsage("modem", request.modem, modems);
-    std::string error;
-    const QString modemFile =
-        modemFolder + QLatin1Char('/') + request.modem + QLatin1String(".ini");
-    if (!ModemControl::attach(QFile::encodeName(modemFile).toStdString(), &error))
-        return fail(WrongUsage, QString::fromStdString(error));
-    const int code = run(request);
-    ModemControl::detach();
-    return code;
+    QString error;
+    if (!source.attach(parser.value(modem), &error))
+        return fail(WrongUsage, error);
+    return run(source, request);
 }

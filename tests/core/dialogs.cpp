@@ -13,56 +13,52 @@
 
 namespace {
 
+void closeByTitleBar(QWidget *window)
+{
+    QCloseEvent event;
+    QApplication::sendEvent(window->windowHandle(), &event);
+}
+
+/// How a dialog ends.
 struct Ending
 {
     const char *name;
     bool shown;
     bool destroys;
-    void (*run)(ExtendDialog *dialog, QWidget *parent);
+    void (*run)(ExtendDialog *d, QWidget *parent);
 };
 
+/// What the user does with a message box, and its result.
+struct Answer
+{
+    const char *name;
+    int result;
+    void (*run)(QMessageBox *b, QWidget *parent);
+};
+
+// clang-format off
 const Ending endings[] = {
     {"close", true, false, [](ExtendDialog *d, QWidget *) { d->close(); }},
-    {"title bar", true, false,
-     [](ExtendDialog *d, QWidget *) {
-         QCloseEvent event;
-         QApplication::sendEvent(d->windowHandle(), &event);
-     }},
+    {"title bar", true, false, [](ExtendDialog *d, QWidget *) { closeByTitleBar(d); }},
     {"Esc", true, false, [](ExtendDialog *d, QWidget *) { QTest::keyClick(d, Qt::Key_Escape); }},
-    {"reject", true, false, [](ExtendDialog *d, QWidget *) { d->reject(); }},
     {"accept", true, false, [](ExtendDialog *d, QWidget *) { d->accept(); }},
     {"delete", true, true, [](ExtendDialog *d, QWidget *) { delete d; }},
     {"parent", true, true, [](ExtendDialog *, QWidget *p) { delete p; }},
     {"close, never shown", false, false, [](ExtendDialog *d, QWidget *) { d->close(); }},
-    {"delete, never shown", false, true, [](ExtendDialog *d, QWidget *) { delete d; }},
     {"parent, never shown", false, true, [](ExtendDialog *, QWidget *p) { delete p; }},
 };
-
-enum Afterwards
-{
-    Nothing,
-    DeletesOnClose,
-    SlotDeletesLater,
-    SlotDeletes
-};
-
-/// What the user does with the message box of the test.
-struct Answer
-{
-    const char *name;
-    int expected;
-    void (*run)(QMessageBox *box, QWidget *parent);
-};
+enum Afterwards { Nothing, DeletedOnClose, SlotDeletesLater, SlotDeletes };
+const char *const afterwards[] = {"", ", deleted on close", ", slot deletes later", ", slot deletes"};
 
 const Answer answers[] = {
-    {"first button", 1, [](QMessageBox *b, QWidget *) { b->buttons().at(0)->click(); }},
     {"second button", 2, [](QMessageBox *b, QWidget *) { b->buttons().at(1)->click(); }},
-    {"Return presses the first", 1,
-     [](QMessageBox *b, QWidget *) { QTest::keyClick(b, Qt::Key_Return); }},
+    {"Return presses the first", 1, [](QMessageBox *b, QWidget *) { QTest::keyClick(b, Qt::Key_Return); }},
     {"Esc presses none", 0, [](QMessageBox *b, QWidget *) { QTest::keyClick(b, Qt::Key_Escape); }},
-    {"title bar presses none", 0, [](QMessageBox *b, QWidget *) { b->close(); }},
+    {"title bar presses none", 0, [](QMessageBox *b, QWidget *) { closeByTitleBar(b); }},
     {"parent goes", 0, [](QMessageBox *, QWidget *p) { delete p; }},
+    {"parent of a modeless one goes", 0, [](QMessageBox *, QWidget *p) { delete p; }},
 };
+// clang-format on
 
 } // namespace
 
@@ -71,38 +67,32 @@ class DialogsTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(HostCore::setLanguage(QStringLiteral(TRANSLATIONS_DIR), QStringLiteral("en")));
-    }
-
     void endsOnce_data()
     {
         QTest::addColumn<int>("ending");
-        QTest::addColumn<int>("afterwards");
-        const char *const names[] = {"", ", deleted on close", ", slot deletes later",
-                                     ", slot deletes"};
-        for (int i = 0; i < int(sizeof endings / sizeof *endings); ++i) {
+        QTest::addColumn<int>("after");
+        for (const Ending &ending : endings) {
             // A slot that deletes what is being deleted has no chance.
-            for (int after = Nothing;
-                 after <= (endings[i].destroys ? SlotDeletesLater : SlotDeletes); ++after)
-                QTest::addRow("%s%s", endings[i].name, names[after]) << i << after;
+            for (int after = Nothing; after <= (ending.destroys ? SlotDeletesLater : SlotDeletes);
+                 ++after)
+                QTest::addRow("%s%s", ending.name, afterwards[after])
+                    << int(&ending - endings) << after;
         }
     }
 
     void endsOnce()
     {
         QFETCH(int, ending);
-        QFETCH(int, afterwards);
+        QFETCH(int, after);
         QPointer<QWidget> parent(new QWidget);
         QPointer<ExtendDialog> dialog(new ExtendDialog(parent, Qt::WindowCloseButtonHint, 1));
-        dialog->setAttribute(Qt::WA_DeleteOnClose, afterwards == DeletesOnClose);
+        dialog->setAttribute(Qt::WA_DeleteOnClose, after == DeletedOnClose);
         int signalled = 0;
         connect(dialog, &ExtendDialog::dlgCloseEvent, this, [&] {
             ++signalled;
-            if (afterwards == SlotDeletesLater)
+            if (after == SlotDeletesLater)
                 dialog->deleteLater();
-            else if (afterwards == SlotDeletes)
+            else if (after == SlotDeletes)
                 delete dialog;
         });
         if (endings[ending].shown)
@@ -112,7 +102,7 @@ private Q_SLOTS:
         QCOMPARE(signalled, 1);
         QVERIFY(!dialog || !dialog->isVisible());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(dialog.isNull(), endings[ending].destroys || afterwards != Nothing);
+        QCOMPARE(dialog.isNull(), endings[ending].destroys || after != Nothing);
         delete parent;
         QCOMPARE(signalled, 1);
     }
@@ -121,14 +111,14 @@ private Q_SLOTS:
     {
         ExtendDialog dialog(nullptr, Qt::WindowCloseButtonHint, 1);
         QVERIFY(dialog.isWindow());
-        QVERIFY(dialog.windowFlags() & Qt::WindowTitleHint);
-        QVERIFY(dialog.windowFlags() & Qt::WindowCloseButtonHint);
+        QVERIFY(dialog.windowFlags().testFlag(Qt::WindowTitleHint));
+        QVERIFY(dialog.windowFlags().testFlag(Qt::WindowCloseButtonHint));
         QPointer<QWidget> first(new QWidget);
-        auto *second = new QWidget;
         dialog.AddMainWidget(first);
         dialog.AddMainWidget(nullptr);
         dialog.AddMainWidget(first);
         QVERIFY(first);
+        auto *second = new QWidget;
         dialog.AddMainWidget(second);
         QVERIFY(!first);
         delete second;
@@ -144,69 +134,65 @@ private Q_SLOTS:
     void message_data()
     {
         QTest::addColumn<int>("answer");
-        QTest::addColumn<bool>("modal");
-        for (int i = 0; i < int(sizeof answers / sizeof *answers); ++i) {
-            QTest::addRow("%s", answers[i].name) << i << true;
-            QTest::addRow("%s, modeless", answers[i].name) << i << false;
-        }
+        for (const Answer &answer : answers)
+            QTest::newRow(answer.name) << int(&answer - answers);
     }
 
     void message()
     {
         QFETCH(int, answer);
-        QFETCH(bool, modal);
+        const bool modal = answer % 2 == 0;
+        QVERIFY(HostCore::setLanguage(QStringLiteral(TRANSLATIONS_DIR), QStringLiteral("de")));
         QPointer<QWidget> parent(new QWidget);
         QDialog *out = nullptr;
-        QString seen;
+        QStringList seen;
         QTimer::singleShot(0, this, [&] {
             auto *box = parent->findChild<QMessageBox *>(QStringLiteral("CommonUtils_messageBox"));
             QVERIFY(box && box == out && box->isVisible());
-            seen = box->text() + QLatin1Char('|') + box->detailedText() + QLatin1Char('|') +
-                   box->buttons().at(0)->text() + QLatin1Char('|') + box->buttons().at(1)->text();
+            seen << box->text() << box->detailedText();
+            for (const QAbstractButton *button : box->buttons())
+                seen << button->text();
             QCOMPARE(box->textFormat(), Qt::PlainText);
             QCOMPARE(box->windowModality(), modal ? Qt::WindowModal : Qt::NonModal);
             answers[answer].run(box, parent);
         });
         const int pressed = CommonUtils::ShowMessage(
-            QMessageBox::Information, parent, QStringLiteral("Caption"), QStringLiteral("<b>Text"),
-            QStringLiteral("IDS_OK"), QStringLiteral("Later"), QString(), modal,
+            QMessageBox::Information, parent, QString(), QStringLiteral("<b>Text"),
+            QStringLiteral("IDS_MAINFRM_CANCEL_PROMPT"), QStringLiteral("Later"), QString(), modal,
             Qt::WindowCloseButtonHint, &out, QStringLiteral("Details"), true);
-        QCOMPARE(seen, QStringLiteral("<b>Text|Details|OK|Later"));
-        QCOMPARE(pressed, answers[answer].expected);
+        QCOMPARE(seen.mid(0, 4).join(QLatin1Char('|')),
+                 QStringLiteral("<b>Text|Details|A&bbrechen|Later"));
+        QCOMPARE(pressed, answers[answer].result);
         QVERIFY(!out);
         QVERIFY(!parent || parent->findChildren<QMessageBox *>().isEmpty());
         delete parent;
     }
 
-    void centre_data()
-    {
-        QTest::addColumn<QRect>("parent");
-        QTest::addColumn<QPoint>("expected");
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        QTest::newRow("middle of the parent") << QRect(100, 80, 400, 300) << QPoint(300, 230);
-        QTest::newRow("kept on the screen, lower right")
-            << QRect(screen.right() - 60, screen.bottom() - 60, 400, 300)
-            << screen.bottomRight() - QPoint(100, 50);
-        QTest::newRow("kept on the screen, upper left")
-            << QRect(-380, -280, 400, 300) << screen.topLeft() + QPoint(100, 50);
-        QTest::newRow("no parent") << QRect() << screen.center();
-    }
-
     void centre()
     {
-        QFETCH(QRect, parent);
-        QFETCH(QPoint, expected);
-        QWidget window;
-        // The child's window counts, not the child.
-        QWidget child(&window);
-        window.setGeometry(parent);
-        QDialog dialog(parent.isNull() ? nullptr : &child);
-        dialog.setFixedSize(200, 100);
-        dialog.show();
-        CommonUtils::MoveCentre(&dialog);
-        const QPoint distance = dialog.frameGeometry().center() - expected;
-        // The window frame's width may come to it.
-        QVERIFY(distance.manhattanLength() <= 8);
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        struct
+        {
+            QRect parent;
+            QPoint expected;
+        } const rows[] = {
+            {QRect(100, 80, 400, 300), QPoint(300, 230)},
+            {QRect(screen.right() - 60, screen.bottom() - 60, 400, 300),
+             screen.bottomRight() - QPoint(100, 50)},
+            {QRect(-380, -280, 400, 300), screen.topLeft() + QPoint(100, 50)},
+            {QRect(), screen.center()}, // without a parent
+        };
+        for (const auto &row : rows) {
+            QWidget window;
+            QWidget child(&window); // its window counts, not the child
+            window.setGeometry(row.parent);
+            QDialog dialog(row.parent.isNull() ? nullptr : &child);
+            dialog.setFixedSize(200, 100);
+            dialog.show();
+            CommonUtils::MoveCentre(&dialog);
+            // The window frame's width may come to it.
+            QVERIFY((dialog.frameGeometry().center() - row.expected).manhattanLength() <= 8);
+        }
     }
 };
 

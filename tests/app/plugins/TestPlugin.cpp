@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-// A plug-in that behaves as a definition says. What the host does to it is counted in properties of
+// A plug-in that behaves as definitions say. What the host does to it is counted in properties of
 // the application, which outlives it.
 
 #include "interfaces/INotify.h"
@@ -10,32 +10,18 @@
 #include <QCoreApplication>
 #include <QVariant>
 
-namespace {
-
-void count(const char *what)
-{
-    qApp->setProperty(what, qApp->property(what).toInt() + 1);
-}
-
-} // namespace
-
-#ifdef WRONG_INTERFACE
-
-class TestPlugin : public QObject
-{
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID "com.velt.IUIPlugin")
-
-public:
-    ~TestPlugin() override { count("deleted"); }
-};
-
-#else
-
-#ifdef HALF_INTERFACE
+#if defined(WRONG_INTERFACE)
+#define TEST_INTERFACES IBasePlugin
+#elif defined(HALF_INTERFACE)
 #define TEST_INTERFACES IBasePlugin IUIPlugin
 #else
 #define TEST_INTERFACES IBasePlugin IUIPlugin INotify
+#endif
+
+#ifdef INIT_FAILS
+const char initResult[] = "ready";
+#else
+const char initResult[] = "";
 #endif
 
 class TestPlugin : public QObject, public IUIPlugin, public INotify
@@ -47,74 +33,34 @@ class TestPlugin : public QObject, public IUIPlugin, public INotify
 public:
     ~TestPlugin() override { count("deleted"); }
 
-    int Init() override
-    {
-#ifdef INIT_FAILS
-        return qApp->property("ready").toInt();
-#else
-        return 1;
-#endif
-    }
-    int ShowWindow(QWidget *, QRect &) override
-    {
-        return qApp->property("opens").toInt();
-    }
+    int Init() override { return *initResult ? qApp->property(initResult).toInt() : 1; }
+    int ShowWindow(QWidget *, QRect &) override { return qApp->property("opens").toInt(); }
     int Notify(unsigned int code, unsigned int argument1, unsigned int argument2) override
     {
-        if (code == 4100 && argument1 == 0 && argument2 == 0)
-            count("notified");
+        count(code == 4100 && argument1 == 0 && argument2 == 0 ? "notified" : "misinformed");
         return 0;
     }
-    void OnDestroy() override
-    {
-        count("destroyed");
-    }
+    void OnDestroy() override { count("destroyed"); }
 
     void Release() override {}
-    int GetLastError() override
-    {
-        return 0;
-    }
-    int GetPluginType() override
-    {
-        return 0;
-    }
-    QString GetCLSID() override
-    {
-        return QString();
-    }
-    int GetVersion() override
-    {
-        return 0;
-    }
-    QString GetPluginName() override
-    {
-        return QString();
-    }
-    bool IsAllowRelease() override
-    {
-        return false;
-    }
-    int QueryInterface(int, QObject **) override
-    {
-        return 0;
-    }
-    int DoModal() override
-    {
-        return 0;
-    }
+    int GetLastError() override { return 0; }
+    int GetPluginType() override { return 0; }
+    QString GetCLSID() override { return QString(); }
+    int GetVersion() override { return 0; }
+    QString GetPluginName() override { return QString(); }
+    bool IsAllowRelease() override { return false; }
+    int QueryInterface(int, QObject **) override { return 0; }
+    int DoModal() override { return 0; }
     void Hide() override {}
     void FitSize(QRect &) override {}
-    bool IsReady() override
+    bool IsReady() override { return false; }
+    bool ChangeLang(const QString &) override { return false; }
+
+private:
+    static void count(const char *what)
     {
-        return false;
-    }
-    bool ChangeLang(const QString &) override
-    {
-        return false;
+        qApp->setProperty(what, qApp->property(what).toInt() + 1);
     }
 };
-
-#endif
 
 #include "TestPlugin.moc"

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "ModemSource.h"
+
+#include "ModemControl.h"
+#include "ModemService.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace {
+
+const QString serviceName = QStringLiteral("modemmanager");
+const QString automatic = QStringLiteral("auto");
+const QString simulatedDefault = QStringLiteral("wcdma");
+
+/// How long the start may wait for the service's first answer.
+const int firstAnswer = 1000; // ms
+
+} // namespace
+
+ModemSource::ModemSource(const QString &folder) : m_folder(folder), m_simulated(true) {}
+
+ModemSource::~ModemSource()
+{
+    ModemService::detach();
+    ModemControl::detach();
+}
+
+QStringList ModemSource::names() const
+{
+    QStringList names =
+        QDir(m_folder).entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Name);
+    names.replaceInStrings(QStringLiteral(".ini"), QString());
+    return names + QStringList({serviceName, automatic});
+}
+
+bool ModemSource::attach(const QString &name, QString *error)
+{
+    if (name == automatic) {
+        ModemService::attach();
+        m_simulated = !ModemService::isPresent(firstAnswer);
+        if (m_simulated) {
+            ModemService::detach();
+            return attachSimulated(simulatedDefault, error);
+        }
+        m_name = serviceName;
+        return true;
+    }
+    if (name.section(QLatin1Char(':'), 0, 0) != serviceName)
+        return attachSimulated(name, error);
+
+    bool isNumber = true;
+    const QString number = name.section(QLatin1Char(':'), 1);
+    const int index = number.isEmpty() ? 0 : number.toInt(&isNumber);
+    if (!isNumber || index < 0) {
+        *error = QStringLiteral("\"%1\" is not the number of a modem").arg(number);
+        return false;
+    }
+    ModemService::attach(index);
+    ModemService::isPresent(firstAnswer); // so that the first window has values
+    m_simulated = false;
+    m_name = name;
+    return true;
+}
+
+bool ModemSource::attachSimulated(const QString &name, QString *error)
+{
+    if (!names().contains(name)) {
+        *error = QStringLiteral("unknown modem \"%1\", known are: %2")
+                     .arg(name, names().join(QLatin1String(", ")));
+        return false;
+    }
+    const QString file = m_folder + QLatin1Char('/') + name + QLatin1String(".ini");
+    std::string reason;
+    if (!ModemControl::attach(QFile::encodeName(file).toStdString(), &reason)) {
+        *error = QString::fromStdString(reason);
+        return false;
+    }
+    m_simulated = true;
+    m_name = name;
+    return true;
+}
+
+QString ModemSource::description() const
+{
+    return value(m_simulated ? "modem/description" : "device/deviceName");
+}
+
+QString ModemSource::problem() const
+{
+    return QString::fromStdString(ModemService::problem());
+}
+
+QString ModemSource::value(const char *key)
+{
+    const std::string ofService = ModemService::value(key);
+    if (!ofService.empty())
+        return QString::fromStdString(ofService);
+    // The encoding of all texts of the device.
+    return QString::fromLatin1(ModemControl::value(key).c_str());
+}

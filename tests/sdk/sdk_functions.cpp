@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 
 #include "ModemControl.h"
-#include "support/Rows.h"
 #include "sdk/VeltDevice.h"
 #include "sdk/VeltNetwork.h"
 #include "sdk/VeltPhonebook.h"
 #include "sdk/VeltSms.h"
+#include "support/Rows.h"
 
 #include <cstring>
 #include <vector>

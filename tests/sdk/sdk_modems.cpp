@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "ModemControl.h"
-#include "support/Rows.h"
 #include "sdk/VeltDevice.h"
 #include "sdk/VeltNetwork.h"
 #include "sdk/VeltSms.h"
+#include "support/Rows.h"
 
 #include <QSettings>
 

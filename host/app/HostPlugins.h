@@ -9,7 +9,7 @@
 #include "interfaces/INetConnectSetting.h"
 #include "interfaces/IStatusBarUI.h"
 
-/// The host's own plug-ins. They answer from the simulated modem, and fail while it is unplugged or
+/// The host's own plug-ins. They answer from the attached modem, and fail while it is away or
 /// has no such value.
 
 class StatusBar : public QObject, public IStatusBarUI

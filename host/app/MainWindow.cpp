@@ -3,6 +3,7 @@
 
 #include "MainWindow.h"
 
+#include "ModemSource.h"
 #include "PluginLoader.h"
 #include "interfaces/INotify.h"
 #include "interfaces/IUIPlugin.h"
@@ -19,6 +20,8 @@ MainWindow::MainWindow(const ModemSource &modem, const PluginLoader &plugin)
     setObjectName(QStringLiteral("MainWindow"));
     m_message->setObjectName(QStringLiteral("MainWindow_labelMessage"));
     m_message->setWordWrap(true);
+    if (modem.isSimulated())
+        m_message->setText(modem.problem());
     auto *const diagnostics = new QPushButton(tr("&Diagnostics"));
     diagnostics->setObjectName(QStringLiteral("MainWindow_pushButtonDiagnostics"));
 

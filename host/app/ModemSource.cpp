@@ -20,12 +20,22 @@ const int firstAnswer = 1000; // ms
 
 } // namespace
 
-ModemSource::ModemSource(const QString &folder) : m_folder(folder), m_simulated(true) {}
+ModemSource::ModemSource(const QString &folder)
+    : m_folder(folder), m_simulated(true), m_hanging(false)
+{
+}
 
 ModemSource::~ModemSource()
 {
-    ModemService::detach();
+    detach();
+}
+
+bool ModemSource::detach()
+{
+    if (!ModemService::detach())
+        m_hanging = true;
     ModemControl::detach();
+    return !m_hanging;
 }
 
 QStringList ModemSource::names() const
@@ -42,7 +52,8 @@ bool ModemSource::attach(const QString &name, QString *error)
         ModemService::attach();
         m_simulated = !ModemService::isPresent(firstAnswer);
         if (m_simulated) {
-            ModemService::detach();
+            m_fallback = QString::fromStdString(ModemService::problem());
+            detach();
             return attachSimulated(simulatedDefault, error);
         }
         m_name = serviceName;
@@ -53,9 +64,10 @@ bool ModemSource::attach(const QString &name, QString *error)
 
     bool isNumber = true;
     const QString number = name.section(QLatin1Char(':'), 1);
-    const int index = number.isEmpty() ? 0 : number.toInt(&isNumber);
+    const int index = name == serviceName ? 0 : number.toInt(&isNumber);
     if (!isNumber || index < 0) {
-        *error = QStringLiteral("\"%1\" is not the number of a modem").arg(number);
+        *error = QStringLiteral("\"%1\" is not the number of a modem, which is 0 for the first")
+                     .arg(number);
         return false;
     }
     ModemService::attach(index);
@@ -79,7 +91,7 @@ bool ModemSource::attachSimulated(const QString &name, QString *error)
         return false;
     }
     m_simulated = true;
-    m_name = name;
+    m_name = name + QStringLiteral(" (simulated)");
     return true;
 }
 
@@ -90,7 +102,9 @@ QString ModemSource::description() const
 
 QString ModemSource::problem() const
 {
-    return QString::fromStdString(ModemService::problem());
+    return m_fallback.isEmpty()
+               ? QString::fromStdString(ModemService::problem())
+               : m_fallback + QStringLiteral(" A simulated modem takes its place.");
 }
 
 QString ModemSource::value(const char *key)

@@ -26,6 +26,10 @@ public:
     /// Attaches a modem; false, with the reason in *\a error, when the name or its file is wrong.
     bool attach(const QString &name, QString *error);
 
+    /// Takes the modem away. False when the system's message bus hangs, so that the program must
+    /// leave without the toolkit's end.
+    bool detach();
+
     bool isSimulated() const { return m_simulated; }
     /// Which modem it is, to be shown to the user.
     QString name() const { return m_name; }
@@ -43,7 +47,9 @@ private:
 
     const QString m_folder;
     QString m_name;
+    QString m_fallback; ///< why "auto" took a simulated modem
     bool m_simulated;
+    bool m_hanging;
 };
 
 #endif

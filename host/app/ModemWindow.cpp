@@ -75,7 +75,8 @@ void ModemWindow::showState()
     const bool plugged = ModemControl::isPlugged();
     const QString problem = m_modem.problem();
     m_description->setText(m_modem.description());
-    m_state->setText(!problem.isEmpty() ? problem : plugged ? tr("Plugged in") : tr("Unplugged"));
+    const bool away = !m_modem.isSimulated() && !problem.isEmpty();
+    m_state->setText(away ? problem : plugged ? tr("Plugged in") : tr("Unplugged"));
     m_plugIn->setEnabled(!plugged);
     m_unplug->setEnabled(plugged);
 }

@@ -17,6 +17,7 @@
 #include <QPixmap>
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace {
 
@@ -231,5 +232,10 @@ int main(int argc, char *argv[])
     QString error;
     if (!source.attach(parser.value(modem), &error))
         return fail(WrongUsage, error);
-    return run(source, request);
+    const int code = run(source, request);
+    if (!source.detach()) {
+        std::fflush(nullptr);
+        std::_Exit(code);
+    }
+    return code;
 }

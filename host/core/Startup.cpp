@@ -27,9 +27,9 @@ void HostCore::PluginRegister::add(const QString &classIdentifier, int pluginTyp
 
 void HostCore::PluginRegister::remove(QObject *plugin)
 {
-    for (Entry &entry : m_entries) {
-        if (entry.plugin == plugin)
-            entry.plugin.clear();
+    for (int index = m_entries.size() - 1; index >= 0; --index) {
+        if (m_entries.at(index).plugin == plugin)
+            m_entries.removeAt(index);
     }
 }
 

@@ -17,7 +17,8 @@
 /// raised as device events.
 ///
 /// Any thread may call these functions, callbacks of the SDK included (but for attach() and
-/// detach()). No call waits for the service, but for isPresent().
+/// detach()). No call waits for the service, but for isPresent();
+/// detach() waits for the worker, 1 s at most.
 namespace ModemService {
 
 /// Makes the service's modem the one attached modem, in place of a simulated one: the usable modem
@@ -26,8 +27,10 @@ namespace ModemService {
 /// is attached.
 MODEM_CONTROL_API void attach(int index = 0);
 
-/// Takes the service's modem away, without any event. Does nothing when it isn't attached.
-MODEM_CONTROL_API void detach();
+/// Takes the service's modem away, without any event. Does nothing when it isn't attached. False
+/// when the worker could not be ended, because the message bus hangs: the toolkit would then hang
+/// at the end of the program too, which should leave by std::_Exit().
+MODEM_CONTROL_API bool detach();
 
 /// Whether the service has told of the modem in time. Waits for its first answer, no longer than
 /// \a milliseconds.

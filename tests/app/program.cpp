@@ -5,6 +5,10 @@
 
 #include <QImage>
 
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 /// The whole program, as a script would use it.
 class ProgramTest : public QObject
 {
@@ -69,6 +73,33 @@ private Q_SLOTS:
     void realPlugin()
     {
         usage();
+    }
+
+    /// A bus that takes the connection and then says nothing, which the toolkit waits for.
+    void hangingBus()
+    {
+        const QTemporaryDir folder;
+        const QByteArray path = QFile::encodeName(folder.filePath(QStringLiteral("bus")));
+        const int listener = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
+        QCOMPARE(bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+        QCOMPARE(listen(listener, 5), 0);
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("DBUS_SYSTEM_BUS_ADDRESS"),
+                           QStringLiteral("unix:path=") + QFile::decodeName(path));
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(HOST_PROGRAM),
+                      {QStringLiteral("--modem"), QStringLiteral("modemmanager"),
+                       QStringLiteral("--language"), QStringLiteral("en"),
+                       QStringLiteral("--print")});
+        QVERIFY(process.waitForFinished(60000));
+        close(listener);
+        QCOMPARE(process.exitCode(), 0);
+        QVERIFY(process.readAllStandardOutput().contains("IMEI: Unknown\n"));
+        QVERIFY(process.readAllStandardError().contains("has answered yet"));
     }
 
     void pictureAndLog()

@@ -43,7 +43,8 @@ struct Attachment
 
     std::mutex mutex; ///< guards all below
     std::condition_variable changed;
-    int index = -1; ///< of the wanted modem, negative when none is
+    int generation = 0; ///< of the worker; what an earlier one reports is no longer of use
+    int index = -1;     ///< of the wanted modem, negative when none is
     ServiceStatus status = ServiceStatus::Starting;
     std::shared_ptr<ServiceModem> modem;
     ServiceModem::Clock::time_point validUntil;
@@ -71,11 +72,17 @@ Attachment &attachment()
     return attachment;
 }
 
+/// How long detach() waits for the worker. It ends at once, unless the bus takes its connection and
+/// then says nothing.
+const unsigned long patience = 1000; // ms
+
 /// What the worker has seen.
-void report(ServiceStatus status, const std::shared_ptr<ServiceModem> &modem)
+void report(int generation, ServiceStatus status, const std::shared_ptr<ServiceModem> &modem)
 {
     Attachment &state = attachment();
     Lock lock(state.mutex);
+    if (generation != state.generation)
+        return;
     const std::shared_ptr<ServiceModem> before = state.modem;
     state.confirm(status);
     state.setModem(modem);
@@ -107,30 +114,40 @@ void attach(int index)
     detach();
     Attachment &state = attachment();
     std::lock_guard<std::mutex> changing(state.changing);
+    int generation = 0;
     {
         Lock lock(state.mutex);
+        generation = ++state.generation;
         state.index = index;
         state.confirmation = serviceTiming().confirmation;
         state.confirm(ServiceStatus::Starting);
         state.setModem(nullptr);
         ModemControl::clearResults();
     }
-    state.worker = std::make_unique<Worker>(index, report);
+    state.worker = std::make_unique<Worker>(
+        index, [generation](ServiceStatus status, const std::shared_ptr<ServiceModem> &modem) {
+            report(generation, status, modem);
+        });
     state.worker->start();
 }
 
-void detach()
+bool detach()
 {
     Attachment &state = attachment();
     std::lock_guard<std::mutex> changing(state.changing);
     if (!state.worker)
-        return;
+        return true;
     state.worker->quit();
-    state.worker->wait();
-    state.worker.reset();
+    const bool ended = state.worker->wait(patience);
+    if (ended)
+        state.worker.reset();
+    else
+        state.worker.release(); // it must not be destroyed while it runs
     Lock lock(state.mutex);
+    ++state.generation;
     state.index = -1;
     state.setModem(nullptr);
+    return ended;
 }
 
 bool isPresent(int milliseconds)
@@ -156,7 +173,7 @@ std::string problem()
         return "ModemManager has not answered for " + std::to_string(state.confirmation / 1000) +
                " seconds.";
     if (state.status == ServiceStatus::Starting)
-        return "ModemManager has not answered yet.";
+        return "Neither the system's message bus nor ModemManager has answered yet.";
     if (!state.modem)
         return state.index == 0 ? "ModemManager knows no usable modem."
                                 : "ModemManager knows no usable modem with the number " +

@@ -22,6 +22,7 @@ const char properties[] = "org.freedesktop.DBus.Properties";
 
 const unsigned signalPeriod = 5; // s
 const int collectTime = 100;     // ms; changes come in groups
+const int detailTime = 2000;     // ms
 
 QVariant toPlain(const QDBusArgument &argument);
 
@@ -95,8 +96,9 @@ struct ServiceWatcher::Reading
 {
     ServiceStatus status = ServiceStatus::Answering;
     bool confirmed = true;
-    int outstanding = 0; ///< calls
-    QString path;        ///< the modem's
+    ServiceModem::Clock::time_point answered; ///< when the objects came
+    int outstanding = 0;                      ///< calls
+    QString path;                             ///< the modem's
     ServiceObjects objects;
 
     QVariant modem(const char *property) const
@@ -138,6 +140,9 @@ bool ServiceWatcher::connectBus()
     connectSignal(properties, "PropertiesChanged");
     connectSignal(objectManager, "InterfacesAdded");
     connectSignal(objectManager, "InterfacesRemoved");
+    // What is known is of the service on the bus before.
+    m_messages.clear();
+    m_signalAsked.invalidate();
     m_owner = std::make_unique<QDBusServiceWatcher>(service, m_bus,
                                                     QDBusServiceWatcher::WatchForOwnerChange);
     connect(m_owner.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -152,7 +157,7 @@ void ServiceWatcher::onServiceOwnerChanged(const QString &newOwner)
     // A service that starts anew counts its objects anew.
     m_reading.reset();
     m_messages.clear();
-    m_signalPath.clear();
+    m_signalAsked.invalidate();
     if (newOwner.isEmpty())
         m_report(ServiceStatus::NoService, nullptr);
     else
@@ -189,13 +194,18 @@ void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, con
     message.setArguments(arguments);
     message.setAutoStartService(false);
     ++reading->outstanding;
-    auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(message, m_timing.confirmation), this);
+    // The objects decide whether the service answers; a detail that hangs is only missing.
+    const bool isDetail = !reading->path.isEmpty();
+    const int patience = isDetail ? qMin(detailTime, m_timing.confirmation) : m_timing.confirmation;
+    auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(message, patience), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [=] {
         call->deleteLater();
         if (m_reading != reading)
             return;
         const QDBusMessage reply = call->reply();
         const QDBusError error(reply);
+        if (!isDetail)
+            reading->answered = ServiceModem::Clock::now();
         if (!error.isValid()) {
             answer(toPlain(reply.arguments().value(0)));
         } else if (error.type() == QDBusError::ServiceUnknown ||
@@ -204,8 +214,7 @@ void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, con
         } else if (error.type() == QDBusError::Disconnected ||
                    error.type() == QDBusError::NoServer) {
             reading->status = ServiceStatus::NoBus;
-        } else if (reading->path.isEmpty() || error.type() == QDBusError::NoReply ||
-                   error.type() == QDBusError::TimedOut || error.type() == QDBusError::Timeout) {
+        } else if (!isDetail) {
             reading->confirmed = false;
         } // Else an object has just gone, or has no such value now.
         if (--reading->outstanding == 0)
@@ -237,10 +246,15 @@ void ServiceWatcher::choose(const ReadingPointer &reading, const QVariantMap &ob
     std::sort(usable.begin(), usable.end(), [](const QString &left, const QString &right) {
         return pathNumber(left) < pathNumber(right);
     });
-    const auto known = std::find_if(usable.cbegin(), usable.cend(), [&](const QString &path) {
+    const auto isKnown = [&](const QString &path) {
         return !m_identity.isEmpty() && identity(modemAt(path)) == m_identity;
-    });
+    };
+    // Of modems that say they are the same the one under the path of before.
+    auto known = std::find(usable.cbegin(), usable.cend(), m_path);
+    if (known == usable.cend() || !isKnown(m_path))
+        known = std::find_if(usable.cbegin(), usable.cend(), isKnown);
     reading->path = known != usable.cend() ? *known : usable.value(m_index);
+    m_path = reading->path;
     if (reading->path.isEmpty())
         return;
 
@@ -275,7 +289,7 @@ void ServiceWatcher::askDetails(const ReadingPointer &reading)
                                      .toStringList();
     QMap<QString, QVariantMap> kept;
     for (const QString &path : messages) {
-        if (m_messages.contains(path))
+        if (m_messages.value(path).value(QLatin1String("Storage")).toUInt() != 0)
             kept[path] = m_messages[path];
         else
             askProperties(reading, path, "Sms",
@@ -289,12 +303,12 @@ void ServiceWatcher::setUpSignal(const Reading &reading)
 {
     const QString interface = QStringLiteral("Modem.Signal");
     const QVariantMap signal = reading.objects.interfaces.value(interface);
-    if (reading.path == m_signalPath || signal.isEmpty() ||
+    if (signal.isEmpty() || signal.value(QLatin1String("Rate")).toUInt() != 0 ||
         reading.modem("State").toInt() < ModemEnabled)
         return;
-    m_signalPath = reading.path;
-    if (signal.value(QLatin1String("Rate")).toUInt() != 0)
+    if (m_signalAsked.isValid() && !m_signalAsked.hasExpired(1000 * signalPeriod))
         return;
+    m_signalAsked.start();
     QDBusMessage message = QDBusMessage::createMethodCall(
         service, reading.path, QLatin1String(servicePrefix) + interface, QStringLiteral("Setup"));
     message.setArguments({signalPeriod});
@@ -312,7 +326,7 @@ void ServiceWatcher::finish(const ReadingPointer &reading)
             reading->objects.messages = m_messages.values();
             modem = std::make_shared<ServiceModem>(
                 reading->path, convert(reading->objects),
-                ServiceModem::Clock::now() + std::chrono::milliseconds(m_timing.confirmation));
+                reading->answered + std::chrono::milliseconds(m_timing.confirmation));
         }
         m_report(ServiceStatus::Answering, modem);
     }

@@ -9,6 +9,7 @@
 
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
@@ -72,8 +73,9 @@ private:
     ReadingPointer m_reading;              ///< the one that is running
     bool m_changed = false;                ///< since it began
     QString m_identity;                    ///< of the modem that was taken first
-    QString m_signalPath;                  ///< of the modem whose signal was set up
-    QMap<QString, QVariantMap> m_messages; ///< by path; a message doesn't change
+    QString m_path;                        ///< of the modem that was taken last
+    QElapsedTimer m_signalAsked;           ///< since the signal was last set up
+    QMap<QString, QVariantMap> m_messages; ///< by path; a stored message doesn't change
 };
 
 #endif

@@ -10,47 +10,33 @@
 #include <mutex>
 #include <thread>
 
-/// A modem that answers AT commands at an abstract unix socket, from a table. At first it is a
-/// UMTS modem that is registered at home.
+/// A modem that answers AT commands at an abstract unix socket, at first as at_modem.txt says. It
+/// can only end when nobody is connected to it any more.
 class AtModem
 {
 public:
-    /// No answer at all.
-    static const char silence[];
-
     AtModem();
     ~AtModem();
 
     /// The name of its port, for the service.
     QByteArray port() const { return m_port; }
 
-    /// Sets the answer to a command, without the final OK. A command that ends in '=' stands for
-    /// all its arguments.
-    void set(const QByteArray &command, const QByteArray &answer);
-    /// Lets the answer to a command come late (ms), and those to later commands too.
-    void delay(const QByteArray &command, int milliseconds);
-    void registerAs(int state, const char *operatorCode = "00101");
+    /// Sets answers: commands, separated by spaces, " = " and their answer, as at_modem.txt has
+    /// them. A command that ends in '=' stands for all its arguments. For "no answer" there is
+    /// none; the answer to "late" is for how long (ms) all others are held back.
+    void set(const QString &answers);
     /// Sends a line unasked.
     void send(const QByteArray &line);
-    /// Commands that the service has sent, separated by newlines.
-    QByteArray commands() const;
 
 private:
-    struct Answer
-    {
-        QByteArray text;
-        int delay = 0;
-    };
     void run();
     void answer(const QByteArray &command);
 
-    const QByteArray m_port;
-    mutable std::mutex m_mutex;
-    QMap<QByteArray, Answer> m_answers;
-    QByteArray m_commands;
-    int m_listener = -1;
+    QByteArray m_port;
+    std::mutex m_mutex; ///< guards all below
+    QMap<QByteArray, QByteArray> m_answers;
     int m_connection = -1;
-    int m_end[2] = {-1, -1};
+    int m_listener = -1;
     std::thread m_thread;
 };
 

@@ -3,72 +3,46 @@
 
 #include "ServiceSupport.h"
 
+#include "ModemService.h"
 #include "sdk/VeltDevice.h"
 #include "sdk/VeltNetwork.h"
-#include "sdk/VeltPhonebook.h"
 #include "sdk/VeltSms.h"
 
-#include <QElapsedTimer>
 #include <QFile>
-#include <QStandardPaths>
+#include <QRegularExpression>
 #include <QTest>
 
-#include <csignal>
-#include <functional>
+#include <algorithm>
 #include <mutex>
 
 namespace ServiceSupport {
 
-namespace {
-
-qint64 longest = 0; // ns
-
-std::mutex eventMutex;
-QStringList eventTexts;
-
-int takeEvent(int event, void *)
+QString content(const char *fileName)
 {
-    int32_t status = -1;
-    const VELT_ERROR result = VELT_DevSrv_GetDevStatus(&status);
-    std::lock_guard<std::mutex> lock(eventMutex);
-    eventTexts << QStringLiteral("%1:%2").arg(event).arg(
-        result == VELT_SUCCESS ? QString::number(status) : QStringLiteral("-"));
-    return 1;
+    QFile file(QString(TEST_SOURCE_DIR "/") + fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", fileName);
+    return file.readAll();
 }
 
-template <size_t Size>
-QString field(const char (&text)[Size])
+Pairs pairs(const QString &text)
 {
-    return QString::fromLatin1(text, static_cast<int>(qstrnlen(text, Size)));
+    Pairs pairs;
+    for (const QString &pair : text.split(QRegularExpression("\n|; "), Qt::SkipEmptyParts)) {
+        if (!pair.startsWith('#'))
+            pairs[pair.section(" =", 0, 0)] = pair.section(" =", 1).trimmed();
+    }
+    return pairs;
 }
-
-QString numbers(std::initializer_list<qint64> values)
-{
-    QStringList texts;
-    for (const qint64 value : values)
-        texts << QString::number(value);
-    return texts.join(QLatin1Char('|'));
-}
-
-} // namespace
 
 // ---- Programs ----
 
 void Program::start(const QString &program, const QStringList &arguments)
 {
-    m_process.setProcessChannelMode(QProcess::MergedChannels);
     m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.start(QStringLiteral("setpriv"),
-                    QStringList{QStringLiteral("--pdeathsig"), QStringLiteral("KILL"),
-                                QStringLiteral("--"), program} +
-                        arguments);
+    m_process.setStandardErrorFile(QProcess::nullDevice());
+    m_process.start("setpriv", QStringList{"--pdeathsig", "KILL", "--", program} + arguments);
     m_process.waitForStarted();
-}
-
-void Program::signal(int number)
-{
-    if (isRunning())
-        ::kill(static_cast<pid_t>(m_process.processId()), number);
 }
 
 void Program::stop()
@@ -77,217 +51,174 @@ void Program::stop()
     m_process.waitForFinished();
 }
 
-PrivateBus::PrivateBus()
+PrivateBus::PrivateBus() : m_socket(m_folder.filePath("bus"))
 {
-    const QByteArray address = "unix:path=" + QFile::encodeName(socket());
-    qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+    for (const char *name : {"DBUS_SYSTEM_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"})
+        qputenv(name, "unix:path=" + QFile::encodeName(m_socket));
 }
 
 QString PrivateBus::start()
 {
-    if (QStandardPaths::findExecutable(QStringLiteral("dbus-daemon")).isEmpty())
-        return QStringLiteral("dbus-daemon is missing (package dbus-daemon)");
-    const QString fileName = m_folder.path() + QStringLiteral("/bus.conf");
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return file.errorString();
-    file.write("<busconfig><type>system</type><listen>unix:path=" + QFile::encodeName(socket()) +
-               "</listen><policy context=\"default\"><allow send_destination=\"*\"/>"
-               "<allow receive_sender=\"*\"/><allow own=\"*\"/><allow user=\"*\"/></policy>"
-               "</busconfig>");
-    file.close();
-    QFile::remove(socket());
-    m_daemon.start(QStringLiteral("dbus-daemon"),
-                   {QStringLiteral("--nofork"), QStringLiteral("--nopidfile"),
-                    QStringLiteral("--config-file=") + fileName});
-    return QTest::qWaitFor([&] { return QFile::exists(socket()); })
-               ? QString()
-               : QStringLiteral("dbus-daemon does not start");
-}
-
-QDBusConnection PrivateBus::connect(const QString &name) const
-{
-    return QDBusConnection::connectToBus(QStringLiteral("unix:path=") + socket(), name);
+    QFile::remove(m_socket);
+    m_daemon.start("dbus-daemon",
+                   {"--nofork", "--nopidfile", "--config-file=" TEST_SOURCE_DIR "/bus.conf",
+                    "--address=unix:path=" + m_socket});
+    return QTest::qWaitFor([&] { return QFile::exists(m_socket); })
+               ? ""
+               : "dbus-daemon does not start (package dbus-daemon)";
 }
 
 // ---- The SDK ----
 
-QMap<QString, QString> readSdk()
+namespace {
+
+template <size_t Size>
+QString field(const char (&text)[Size])
 {
-    QMap<QString, QString> values;
-    const auto read = [&](const char *name, const std::function<VELT_ERROR()> &function,
-                          const std::function<QString()> &text) {
-        QElapsedTimer timer;
-        timer.start();
-        const VELT_ERROR result = function();
-        longest = qMax(longest, timer.nsecsElapsed());
-        values[QLatin1String(name)] =
-            result == VELT_SUCCESS ? text() : QStringLiteral("error %1").arg(result);
-    };
+    return QString::fromLatin1(text, static_cast<int>(qstrnlen(text, Size)));
+}
 
-    const auto readText = [&](const char *name, const std::function<VELT_ERROR(char *)> &function) {
-        char buffer[256] = {};
-        read(
-            name, [&] { return function(buffer); }, [&] { return field(buffer); });
-    };
-    const auto readNumber = [&](const char *name,
-                                const std::function<VELT_ERROR(int32_t *)> &function) {
-        int32_t number = -99;
-        read(
-            name, [&] { return function(&number); }, [&] { return QString::number(number); });
-    };
-    readNumber("status", VELT_DevSrv_GetDevStatus);
-    readNumber("type", VELT_DevSrv_GetProductType);
-    readNumber("port", VELT_DevSrv_GetDevicePort);
-    readNumber("carriers", VELT_DevSrv_GetNumberOfCarrier);
-    readNumber("sim", VELT_DevSrv_GetSimStatus);
-    readNumber("attached", VELT_NetSrv_GetPSState);
-    readNumber("simMessages", [](int32_t *count) {
-        return VELT_SMSSrv_SMSRecordSetGetRecordCount(count, VELT_SMS_SIM);
-    });
-    readNumber("deviceMessages", [](int32_t *count) {
-        return VELT_SMSSrv_SMSRecordSetGetRecordCount(count, VELT_SMS_DEVICE);
-    });
-    readNumber("contacts", [](int32_t *size) { return VELT_PBSrv_GetSize(1, size); });
-    readText("edition", VELT_DevSrv_GetCustomizeName);
-    readText("model", VELT_DevSrv_GetDeviceName);
-    readText("imei", VELT_DevSrv_GetImeiInfo);
-    readText("serial", VELT_DevSrv_GetSN);
-    readText("imsi", VELT_DevSrv_GetImsiInfo);
-    readText("prl", VELT_NetSrv_GetPrlVer);
-    readText("iccid", [](char *text) { return VELT_NetSrv_GetEFFile(VELT_EF_ICCID, text); });
-    readText("ip", [](char *text) { return VELT_NetSrv_GetIPAddress("", "", text, 64); });
-    readText("dns", [](char *text) { return VELT_NetSrv_GetDNS("", "", text, 64); });
-    uint32_t voltage = 0;
-    read(
-        "voltage", [&] { return VELT_DevSrv_GetVoltage(&voltage); },
-        [&] { return QString::number(voltage); });
+QString join(std::initializer_list<QVariant> values)
+{
+    return QVariant(QVariantList(values)).toStringList().join('|');
+}
 
-    VELT_VERSION_INFO version = {};
-    read(
-        "version", [&] { return VELT_DevSrv_GetFirmwareVersion(&version); },
-        [&] { return field(version.firmware) + QLatin1Char('|') + field(version.hardware); });
-    VELT_ESN_INFO esn = {};
-    read(
-        "esn", [&] { return VELT_DevSrv_GetESN(&esn); },
-        [&] { return field(esn.esn) + QLatin1Char('|') + field(esn.meid); });
-    int32_t pin = -99;
-    char pinBytes[4] = {};
-    read(
-        "pin",
-        [&] { return VELT_DevSrv_GetPinStatus(0, &pin, pinBytes, pinBytes + 1, pinBytes + 2); },
-        [&] { return QString::number(pin) + QLatin1Char('|') + field(pinBytes); });
-    int32_t n[5] = {};
-    read(
-        "ownNumbers",
-        [&] { return VELT_DevSrv_GetUserNumMemAbility(n, n + 1, n + 2, n + 3, n + 4); },
-        [&] {
-            return numbers({n[0], n[1], n[2], n[3], n[4]});
-        });
-    VELT_USER_NUMBER item = {};
-    read(
-        "ownNumber", [&] { return VELT_DevSrv_ReadUserNumItem(1, &item); },
-        [&] { return field(item.number); });
-    VELT_OPERATOR plmn = {};
-    int32_t mode = -99;
-    read(
-        "operator", [&] { return VELT_NetSrv_GetCurPlmn(&mode, &plmn); },
-        [&] {
-            return QStringLiteral("%1|%2|%3|%4")
-                .arg(QString::number(mode), field(plmn.longName), field(plmn.code),
-                     QString::number(plmn.accessTechnology));
-        });
-    const auto readRegistration = [&](const char *name,
-                                      const std::function<VELT_ERROR(VELT_REG_STATE *)> &function) {
-        VELT_REG_STATE state = {};
-        read(
-            name, [&] { return function(&state); },
-            [&] {
-                return QStringLiteral("%1|%2|%3")
-                    .arg(numbers({state.reportMode, state.state}), field(state.lac),
-                         field(state.cellId));
-            });
-    };
-    readRegistration("cs", VELT_NetSrv_GetCSRegState);
-    readRegistration("ps", VELT_NetSrv_GetPSRegState);
-    const auto readSignal = [&](const char *name,
-                                const std::function<VELT_ERROR(VELT_SIGNAL_PAIR *)> &function) {
-        VELT_SIGNAL_PAIR pair = {};
-        read(
-            name, [&] { return function(&pair); },
-            [&] {
-                return numbers({pair.first, pair.second});
-            });
-    };
-    readSignal("rssi", VELT_NetSrv_GetRowRSSI);
-    readSignal("rscp", VELT_NetSrv_GetSignalQuality);
-    read(
-        "setReport", [] { return VELT_NetSrv_SetCSRegReport(2); }, [] { return QString(); });
+/// An answer as text.
+struct Text
+{
+    static QString of(const char *t) { return QString::fromLatin1(t); }
+    static QString of(const int32_t *n) { return QString::number(*n); }
+    static QString of(const VELT_ESN_INFO *e) { return join({field(e->esn), field(e->meid)}); }
+    static QString of(const VELT_USER_NUMBER *n) { return field(n->number); }
+    static QString of(const VELT_SIGNAL_PAIR *s) { return join({s->first, s->second}); }
+    static QString of(const VELT_VERSION_INFO *v)
+    {
+        return join({field(v->firmware), field(v->hardware)});
+    }
+    static QString of(const VELT_REG_STATE *s)
+    {
+        return join({s->reportMode, s->state, field(s->lac), field(s->cellId)});
+    }
+    static QString of(const VELT_OPERATOR *o)
+    {
+        return join({field(o->longName), field(o->code), o->accessTechnology});
+    }
+};
+
+/// Calls a function with an out-parameter that is large enough for a text too.
+template <typename Out, typename Function>
+QString ask(Function function)
+{
+    Out out[256] = {};
+    const VELT_ERROR result = function(out);
+    return result == VELT_SUCCESS ? Text::of(out) : QString("error %1").arg(result);
+}
+
+VELT_ERROR readPin(char *text)
+{
+    int32_t status = 0;
+    const VELT_ERROR result = VELT_DevSrv_GetPinStatus(0, &status, text + 1, text + 2, text + 3);
+    text[0] = static_cast<char>('0' + status);
+    return result;
+}
+
+VELT_ERROR readCentre(char *text)
+{
     uint16_t centre[VELT_SIZE_SMS_CENTRE / 2] = {};
     int32_t length = 0;
-    read(
-        "centre", [&] { return VELT_SMSSrv_GetSMSCentreNumber(&length, centre, 1); },
-        [&] { return QString::fromUtf16(reinterpret_cast<const char16_t *>(centre), length); });
+    const VELT_ERROR result = VELT_SMSSrv_GetSMSCentreNumber(&length, centre, 1);
+    std::copy(centre, centre + length, text);
+    return result;
+}
+
+VELT_ERROR readOperator(VELT_OPERATOR *plmn)
+{
+    int32_t mode = 0;
+    return VELT_NetSrv_GetCurPlmn(&mode, plmn);
+}
+
+std::mutex eventMutex;
+QStringList eventTexts;
+
+int takeEvent(int event, void *)
+{
+    const QString status = ask<int32_t>(VELT_DevSrv_GetDevStatus);
+    std::lock_guard<std::mutex> lock(eventMutex);
+    eventTexts << QString("%1:%2").arg(event).arg(status);
+    return 1;
+}
+
+} // namespace
+
+Pairs readSdk()
+{
+    const auto ip = [](char *text) { return VELT_NetSrv_GetIPAddress("", "", text, 64); };
+    const auto dns = [](char *text) { return VELT_NetSrv_GetDNS("", "", text, 64); };
+    const auto iccid = [](char *text) { return VELT_NetSrv_GetEFFile(VELT_EF_ICCID, text); };
+    const auto ownNumber = [](VELT_USER_NUMBER *n) { return VELT_DevSrv_ReadUserNumItem(1, n); };
+    const auto setReport = [](int32_t *) { return VELT_NetSrv_SetCSRegReport(2); };
+    const auto messages = [](int32_t *count) {
+        return VELT_SMSSrv_SMSRecordSetGetRecordCount(count, VELT_SMS_SIM);
+    };
+    Pairs values{
+        {"status", ask<int32_t>(VELT_DevSrv_GetDevStatus)},
+        {"type", ask<int32_t>(VELT_DevSrv_GetProductType)},
+        {"port", ask<int32_t>(VELT_DevSrv_GetDevicePort)},
+        {"sim", ask<int32_t>(VELT_DevSrv_GetSimStatus)},
+        {"attached", ask<int32_t>(VELT_NetSrv_GetPSState)},
+        {"messages", ask<int32_t>(messages)},
+        {"setReport", ask<int32_t>(setReport)},
+        {"model", ask<char>(VELT_DevSrv_GetDeviceName)},
+        {"imei", ask<char>(VELT_DevSrv_GetImeiInfo)},
+        {"imsi", ask<char>(VELT_DevSrv_GetImsiInfo)},
+        {"iccid", ask<char>(iccid)},
+        {"ip", ask<char>(ip)},
+        {"dns", ask<char>(dns)},
+        {"pin", ask<char>(readPin)},
+        {"centre", ask<char>(readCentre)},
+        {"version", ask<VELT_VERSION_INFO>(VELT_DevSrv_GetFirmwareVersion)},
+        {"esn", ask<VELT_ESN_INFO>(VELT_DevSrv_GetESN)},
+        {"ownNumber", ask<VELT_USER_NUMBER>(ownNumber)},
+        {"operator", ask<VELT_OPERATOR>(readOperator)},
+        {"cs", ask<VELT_REG_STATE>(VELT_NetSrv_GetCSRegState)},
+        {"ps", ask<VELT_REG_STATE>(VELT_NetSrv_GetPSRegState)},
+        {"rssi", ask<VELT_SIGNAL_PAIR>(VELT_NetSrv_GetRowRSSI)},
+        {"rscp", ask<VELT_SIGNAL_PAIR>(VELT_NetSrv_GetSignalQuality)},
+    };
+    for (const char *profile : {"Second", "other"}) {
+        values[QString("ip of ") + profile] =
+            ask<char>([=](char *text) { return VELT_NetSrv_GetIPAddress("", profile, text, 64); });
+    }
+    QStringList all = values.values();
+    all.removeDuplicates();
+    values["all"] = all.join(", ");
+    values["problem"] = QString::fromStdString(ModemService::problem());
+    for (const char *key : {"network/operatorName", "network/networkType", "connection/profile",
+                            "connection/apn", "device/deviceName"})
+        values[key] = QString::fromStdString(ModemService::value(key));
+    std::lock_guard<std::mutex> lock(eventMutex);
+    values["events"] = eventTexts.join(' ');
     return values;
 }
 
-QString addressOf(const char *profile)
+QString differences(const Pairs &expected)
 {
-    char address[64] = {};
-    const VELT_ERROR result = VELT_NetSrv_GetIPAddress("", profile, address, sizeof address);
-    return result == VELT_SUCCESS ? field(address) : QStringLiteral("error %1").arg(result);
-}
-
-QStringList distinctAnswers()
-{
-    QStringList answers = readSdk().values();
-    answers.removeDuplicates();
-    return answers;
-}
-
-double longestCall()
-{
-    return static_cast<double>(longest) / 1e6;
-}
-
-QString differences(const QMap<QString, QString> &expected)
-{
-    const QMap<QString, QString> values = readSdk();
+    const Pairs values = readSdk();
     QStringList found;
     for (auto i = expected.begin(); i != expected.end(); ++i) {
-        if (values.value(i.key(), QStringLiteral("?")) != i.value())
-            found << QStringLiteral("%1: \"%2\", not \"%3\"")
-                         .arg(i.key(), values.value(i.key()), i.value());
+        if (values.value(i.key(), "?") != *i)
+            found << i.key() + ": \"" + values.value(i.key()) + "\", not \"" + *i + '"';
     }
-    return found.join(QLatin1String(", "));
+    return found.join(", ");
 }
 
-// ---- Events ----
-
-EventLog::EventLog()
+void startEvents()
 {
-    clear();
+    VELT_DevSrv_UnRegisterDevMgrCallback(takeEvent);
+    VELT_DevSrv_UnRegisterDevInitEventCallback(takeEvent);
+    eventTexts.clear();
     VELT_DevSrv_RegisterDevMgrCallback(takeEvent);
     VELT_DevSrv_RegisterDevInitEventCallback(takeEvent);
-}
-
-EventLog::~EventLog()
-{
-    VELT_DevSrv_UnRegisterDevInitEventCallback(takeEvent);
-    VELT_DevSrv_UnRegisterDevMgrCallback(takeEvent);
-}
-
-QString EventLog::text() const
-{
-    std::lock_guard<std::mutex> lock(eventMutex);
-    return eventTexts.join(QLatin1Char(' '));
-}
-
-void EventLog::clear()
-{
-    std::lock_guard<std::mutex> lock(eventMutex);
-    eventTexts.clear();
 }
 
 } // namespace ServiceSupport

@@ -8,27 +8,31 @@
 #include <QDBusMessage>
 #include <QMap>
 #include <QProcess>
-#include <QString>
-#include <QStringList>
 #include <QTemporaryDir>
 
-#include <vector>
+#include <csignal>
 
 namespace ServiceSupport {
 
-const QString service = QStringLiteral("org.freedesktop.ModemManager1");
-const QString servicePath = QStringLiteral("/org/freedesktop/ModemManager1");
+const QString service = "org.freedesktop.ModemManager1";
+const QString servicePath = "/org/freedesktop/ModemManager1";
+
+/// A data file beside the tests.
+QString content(const char *fileName);
+
+/// Names and values, "name = value", a pair a line or separated by "; ". A line that begins with
+/// '#' is a comment.
+using Pairs = QMap<QString, QString>;
+Pairs pairs(const QString &text);
 
 /// A program that ends with the test, whatever becomes of that.
 class Program
 {
 public:
     ~Program() { stop(); }
-
     void start(const QString &program, const QStringList &arguments);
+    void signal(int number) { ::kill(static_cast<pid_t>(m_process.processId()), number); }
     void stop();
-    void signal(int number);
-    bool isRunning() const { return m_process.state() == QProcess::Running; }
 
 private:
     QProcess m_process;
@@ -43,41 +47,29 @@ public:
     /// Why there is none; empty when there is.
     QString start();
     void stop() { m_daemon.stop(); }
-    QString folder() const { return m_folder.path(); }
-    /// A new connection for the test.
-    QDBusConnection connect(const QString &name) const;
 
 private:
-    QString socket() const { return m_folder.path() + QStringLiteral("/bus"); }
-    QTemporaryDir m_folder;
+    const QTemporaryDir m_folder;
+    const QString m_socket;
     Program m_daemon;
 };
 
-/// All that the SDK says: by a short name the value, or "error N". The texts of records are
-/// separated by '|'.
-QMap<QString, QString> readSdk();
+/// All that the SDK says: by a short name the value, or "error N". The values of records are
+/// separated by '|'. "all" is the different answers of all functions; "problem" and the keys of
+/// ModemService::value() are what it tells the host, "events" what was taken.
+Pairs readSdk();
 
-/// The address of the connection with this profile, or "error N".
-QString addressOf(const char *profile);
+/// What differs from the expected pairs; empty when nothing does.
+QString differences(const Pairs &expected);
 
-/// The different answers of all functions.
-QStringList distinctAnswers();
+/// Takes device events from now on, in place of those taken so far: the code, and the device status
+/// inside the callback.
+void startEvents();
 
-/// The longest time that a function took in readSdk(), in milliseconds.
-double longestCall();
-
-/// What differs from the expected values; empty when nothing does.
-QString differences(const QMap<QString, QString> &expected);
-
-/// Takes the device events while it lives: the code and the device status inside the callback.
-class EventLog
-{
-public:
-    EventLog();
-    ~EventLog();
-    QString text() const;
-    void clear();
-};
+/// Waits until the SDK says what is expected, pairs.
+#define EXPECT(expected)                                                                           \
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceSupport::differences(ServiceSupport::pairs(expected)),        \
+                              QString(), 15000)
 
 } // namespace ServiceSupport
 

@@ -23,6 +23,13 @@ private slots:
     void cleanup() { ModemService::detach(); }
     void modems_data() { TestSupport::addRows(TEST_SOURCE_DIR "/daemon.txt", "modems"); }
     void modems();
+    void queries_data() { TestSupport::addRows(TEST_SOURCE_DIR "/daemon.txt", "queries"); }
+    void queries()
+    {
+        if (qEnvironmentVariableIsSet("WITHOUT_QUERIES"))
+            QSKIP("run by ./test --full");
+        modems();
+    }
     void changes();
     void stoppedAndKilled();
 

@@ -330,13 +330,15 @@ private:
         // MCC, MNC, LAC, cell, TAC
         const QStringList parts = text(m_objects.location, cellLocation).split(QLatin1Char(','));
         if (parts.size() == 5) {
-            // In E-UTRAN the tracking area stands in the location area's place.
-            const bool hasLocationArea =
-                parts[2].toUInt(nullptr, 16) != 0 && parts[2].compare(QLatin1String("FFFE")) != 0;
-            area = hasLocationArea ? parts[2] : parts[4];
-            if (area.toUInt(nullptr, 16) == 0)
-                area.clear();
-            cell = parts[3];
+            // 0 stands for what the service does not know, and FFFE for a deleted location area
+            // (3GPP TS 23.003). In E-UTRAN the tracking area stands in the location area's place.
+            const auto number = [&parts](int part) { return parts[part].toUInt(nullptr, 16); };
+            const bool hasLocationArea = number(2) != 0 && number(2) != 0xFFFE;
+            const int areaPart = hasLocationArea ? 2 : 4;
+            if (number(areaPart) != 0)
+                area = parts[areaPart];
+            if (number(3) != 0)
+                cell = parts[3];
         }
         for (const TextValue value : {TextValue::CsLac, TextValue::PsLac})
             m_readings.texts[value] = latin1(area);

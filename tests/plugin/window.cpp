@@ -16,7 +16,6 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTranslator>
-#include <QXmlStreamReader>
 #include <QtTest>
 
 using namespace TestSupport;
@@ -98,38 +97,26 @@ void WindowTest::widgets()
     QCOMPARE(captions.size(), 2 * 31);
 }
 
-/// Each name of the shipped file has a value of its own, and all that the dispatch knows is
-/// shipped.
+/// Each row of the shipped file has a value, and there are as many as the dispatch knows.
 void WindowTest::everyNameIsKnown()
 {
-    open(QByteArray());
-    QFile file(QLatin1String(DIAG_SOURCE_DIR "/config/DiagnosisConfig.xml"));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QXmlStreamReader reader(&file);
-    QString tab;
+    open();
     QStringList unanswered;
     int rows = 0;
-    ModemControl::setResult("*", 1);
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (!reader.isStartElement() ||
-            !reader.attributes().hasAttribute(QLatin1String("resourceID")))
-            continue;
-        const QString given = reader.attributes().value(QLatin1String("name")).toString();
-        if (reader.name() == QLatin1String("tab")) {
-            tab = given;
-            continue;
+    for (const TabDetails &tab : *DiagnosticsConfigParse::GetInstance()->GetTabInformation()) {
+        for (const TabItem &item : *tab.items) {
+            ++rows;
+            m_log->takeLog();
+            QString value;
+            m_plugin->getValueLabelVal(tab.name, item.name, &value);
+            // A known name asks the query layer, whose lines tell so.
+            if (m_log->takeLog().filter(QLatin1String("DiagnosticsUILogic: ")).isEmpty())
+                unanswered.append(item.name);
         }
-        ++rows;
-        m_log->takeLog();
-        QString value;
-        m_plugin->getValueLabelVal(tab, given, &value);
-        // A known name asks the query layer, whose lines tell so.
-        if (m_log->takeLog().filter(QLatin1String("DiagnosticsUILogic: ")).isEmpty())
-            unanswered.append(given);
     }
     QCOMPARE(unanswered, QStringList());
     QCOMPARE(rows, 31);
+    DiagnosticsConfigParse::DestroyInstance();
 }
 
 /// What each action costs in SDK calls, and what it shows.

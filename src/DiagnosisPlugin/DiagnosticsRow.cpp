@@ -4,6 +4,7 @@
 #include "DiagnosticsRow.h"
 
 #include <QLabel>
+#include <QStyle>
 
 namespace {
 
@@ -21,6 +22,11 @@ QString valueName(const QString &rowName)
 
 void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowName)
 {
+    // Beside each other in a window from right to left too: by themselves, labels turn a text in
+    // Latin letters to the left there.
+    for (QLabel *label : {caption, value})
+        label->setAlignment(Qt::AlignAbsolute |
+                            QStyle::visualAlignment(label->layoutDirection(), label->alignment()));
     caption->setObjectName(captionName(rowName));
     value->setObjectName(valueName(rowName));
     // A text from the air must not be read as markup.

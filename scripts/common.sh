@@ -28,6 +28,7 @@ install_packages() {
 build_packages=(
     cmake
     fonts-dejavu-core
+    fonts-wqy-microhei # for Chinese
     g++
     ninja-build
     qtbase5-dev

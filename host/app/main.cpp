@@ -78,8 +78,9 @@ bool chooseLanguage(const QString &folder, const QString &wish)
 {
     if (!wish.isNull())
         return HostCore::setLanguage(folder, wish);
-    const QString system = QLocale::system().name().section(QLatin1Char('_'), 0, 0);
+    const QString system = QLocale::system().name(); // "zh_CN", "de_AT"
     return HostCore::setLanguage(folder, system) ||
+           HostCore::setLanguage(folder, system.section(QLatin1Char('_'), 0, 0)) ||
            HostCore::setLanguage(folder, QStringLiteral("en"));
 }
 

@@ -1,0 +1,359 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors -->
+<!-- SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>DiagnosisPlugin</name>
+    <message>
+        <source>IDS_PLUGIN_NAME</source>
+        <translation>Diagnostic</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SAVE_PROMPT</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_REFRESH_PROMPT</source>
+        <translation>&amp;Actualiser</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_CANCEL_PROMPT</source>
+        <translation>A&amp;nnuler</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_CAPTION</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORTSUCCESS_PROMPT</source>
+        <translation>Le diagnostic a été enregistré.</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORTFAILURE_PROMPT</source>
+        <translation>Le diagnostic n'a pas pu être enregistré.</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_UNKNOWN</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_DEVICE</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_NETWORK_SETTINGS</source>
+        <translation>Paramètres réseau</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_NETWORK_STATUS</source>
+        <translation>État du réseau</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_SIM</source>
+        <translation>SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_DEVICE_NAME</source>
+        <translation>Nom de l'appareil</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_APPLICATION_PORT</source>
+        <translation>Port d'application</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SERIAL_NUMBER</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_HARDWARE_VERSION</source>
+        <translation>Version du matériel</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_FIRMWARE_VERSION</source>
+        <translation>Version du micrologiciel</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SOFTWARE_VERSION</source>
+        <translation>Version du logiciel</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SELECTION_MODE</source>
+        <translation>Sélection du réseau</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_NETWORK_NAME</source>
+        <translation>Nom du réseau</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_NETWORK_TYPE</source>
+        <translation>Type de réseau</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIGNAL_STRENGTH</source>
+        <translation>Force du signal</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSSI</source>
+        <translation>RSSI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSQUAL</source>
+        <translation>RSQUAL (BER)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSCP</source>
+        <translation>RSCP</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ECIO</source>
+        <translation>Ec/Io</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ECNO</source>
+        <translation>Ec/No</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_CELL_ID</source>
+        <translation>ID de cellule</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_LAC</source>
+        <translation>Zone de localisation (LAC)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_CS_REGISTRATION</source>
+        <translation>Enregistrement CS</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PS_REGISTRATION</source>
+        <translation>Enregistrement PS</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PS_ATTACHMENT</source>
+        <translation>Attachement PS</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IP_ADDRESS</source>
+        <translation>Adresse IP</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_DNS_SERVER</source>
+        <translation>Serveur DNS</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_OWN_NUMBER</source>
+        <translation>Mon numéro (MSISDN)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIM_MESSAGES</source>
+        <translation>Messages dans SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIM_CONTACTS</source>
+        <translation>Contacts dans SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SMSC</source>
+        <translation>Centre SMS (SMSC)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PIN_STATUS</source>
+        <translation>État du PIN</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ICCID</source>
+        <translation>ICCID</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SIM_MESSAGE_CONTENT_PROMPT</source>
+        <translation>Messages dans SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SIM_CONTACT_CONTENT</source>
+        <translation>Contacts dans SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_NV_MESSAGE_CONTENT</source>
+        <translation>Messages dans l'appareil</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_NV_CONTACT_CONTENT</source>
+        <translation>Contacts dans l'appareil</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_FIRMWARE_VERSION</source>
+        <translation>Version du micrologiciel</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_HARDWARE_VERSION</source>
+        <translation>Version du matériel</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_VOLTAGE</source>
+        <translation>Tension</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PRL_VER</source>
+        <translation>Version de la PRL</translation>
+    </message>
+    <message>
+        <source>IDS_NUM_CARRIERS_PROMPT</source>
+        <translation>Nombre de porteuses</translation>
+    </message>
+    <message>
+        <source>IDS_CARRIERS_NUM_NA</source>
+        <translation>Non disponible</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_ESN</source>
+        <translation>ESN</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_PESN</source>
+        <translation>Pseudo-ESN</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_MEID</source>
+        <translation>MEID</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_AUTOMATIC</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_MANUAL</source>
+        <translation>Manuelle</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_ATTACHED</source>
+        <translation>Attaché</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_NOT_ATTACHED</source>
+        <translation>Non attaché</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_NOT_REGISTERED</source>
+        <translation>Non enregistré</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REGISTERED</source>
+        <translation>Enregistré</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REGISTERING</source>
+        <translation>Enregistrement en cours</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REG_DENIED</source>
+        <translation>Enregistrement refusé</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_ROAMING</source>
+        <translation>Itinérance</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_NOT_INITIALIZED</source>
+        <translation>PIN non initialisé</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_READY</source>
+        <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_REQUIRED</source>
+        <translation>PIN requis</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PUK_REQUIRED</source>
+        <translation>PUK requis</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_BLOCKED</source>
+        <translation>PIN bloqué</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN2_REQUIRED</source>
+        <translation>PIN2 requis</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PUK2_REQUIRED</source>
+        <translation>PUK2 requis</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Diagnosis host</source>
+        <translation>Hôte de diagnostic</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation>&amp;Diagnostic</translation>
+    </message>
+    <message>
+        <source>The diagnostics window could not be opened.</source>
+        <translation>La fenêtre de diagnostic n'a pas pu être ouverte.</translation>
+    </message>
+</context>
+<context>
+    <name>ModemWindow</name>
+    <message>
+        <source>&amp;Plug in</source>
+        <translation>&amp;Brancher</translation>
+    </message>
+    <message>
+        <source>&amp;Unplug</source>
+        <translation>&amp;Débrancher</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation>Branché</translation>
+    </message>
+    <message>
+        <source>Unplugged</source>
+        <translation>Débranché</translation>
+    </message>
+</context>
+</TS>

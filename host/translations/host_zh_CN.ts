@@ -1,0 +1,359 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<!-- SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors -->
+<!-- SPDX-License-Identifier: MIT -->
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>DiagnosisPlugin</name>
+    <message>
+        <source>IDS_PLUGIN_NAME</source>
+        <translation>诊断</translation>
+    </message>
+    <message>
+        <source>IDS_OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SAVE_PROMPT</source>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_REFRESH_PROMPT</source>
+        <translation>刷新(&amp;R)</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_CANCEL_PROMPT</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>IDS_PROMPT_CAPTION</source>
+        <translation>信息</translation>
+    </message>
+    <message>
+        <source>IDS_ERROR_CAPTION</source>
+        <translation>错误</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORTSUCCESS_PROMPT</source>
+        <translation>诊断信息已保存。</translation>
+    </message>
+    <message>
+        <source>IDS_EXPORTFAILURE_PROMPT</source>
+        <translation>无法保存诊断信息。</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_UNKNOWN</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_DEVICE</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_NETWORK_SETTINGS</source>
+        <translation>网络设置</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_NETWORK_STATUS</source>
+        <translation>网络状态</translation>
+    </message>
+    <message>
+        <source>IDS_TAB_SIM</source>
+        <translation>SIM/USIM</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_DEVICE_NAME</source>
+        <translation>设备名称</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_APPLICATION_PORT</source>
+        <translation>应用端口</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SERIAL_NUMBER</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IMEI</source>
+        <translation>IMEI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_HARDWARE_VERSION</source>
+        <translation>硬件版本</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_FIRMWARE_VERSION</source>
+        <translation>固件版本</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SOFTWARE_VERSION</source>
+        <translation>软件版本</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SELECTION_MODE</source>
+        <translation>网络选择</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_NETWORK_NAME</source>
+        <translation>网络名称</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_NETWORK_TYPE</source>
+        <translation>网络类型</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIGNAL_STRENGTH</source>
+        <translation>信号强度</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSSI</source>
+        <translation>RSSI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSQUAL</source>
+        <translation>RSQUAL (BER)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_RSCP</source>
+        <translation>RSCP</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ECIO</source>
+        <translation>Ec/Io</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ECNO</source>
+        <translation>Ec/No</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_CELL_ID</source>
+        <translation>小区 ID</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_LAC</source>
+        <translation>位置区码 (LAC)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_CS_REGISTRATION</source>
+        <translation>CS 域注册</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PS_REGISTRATION</source>
+        <translation>PS 域注册</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PS_ATTACHMENT</source>
+        <translation>PS 域附着</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IP_ADDRESS</source>
+        <translation>IP 地址</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_DNS_SERVER</source>
+        <translation>DNS 服务器</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_OWN_NUMBER</source>
+        <translation>本机号码 (MSISDN)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIM_MESSAGES</source>
+        <translation>SIM/USIM 中的短信</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SIM_CONTACTS</source>
+        <translation>SIM/USIM 中的联系人</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_SMSC</source>
+        <translation>短信中心 (SMSC)</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PIN_STATUS</source>
+        <translation>PIN 状态</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_ICCID</source>
+        <translation>ICCID</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SIM_MESSAGE_CONTENT_PROMPT</source>
+        <translation>SIM/USIM 中的短信</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_SIM_CONTACT_CONTENT</source>
+        <translation>SIM/USIM 中的联系人</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_NV_MESSAGE_CONTENT</source>
+        <translation>设备中的短信</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_NV_CONTACT_CONTENT</source>
+        <translation>设备中的联系人</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_IMSI</source>
+        <translation>IMSI</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_FIRMWARE_VERSION</source>
+        <translation>固件版本</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_HARDWARE_VERSION</source>
+        <translation>硬件版本</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_VOLTAGE</source>
+        <translation>电压</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_PRL_VER</source>
+        <translation>PRL 版本</translation>
+    </message>
+    <message>
+        <source>IDS_NUM_CARRIERS_PROMPT</source>
+        <translation>载波数量</translation>
+    </message>
+    <message>
+        <source>IDS_CARRIERS_NUM_NA</source>
+        <translation>不可用</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_ESN</source>
+        <translation>ESN</translation>
+    </message>
+    <message>
+        <source>IDS_MAINFRM_PESN</source>
+        <translation>伪 ESN</translation>
+    </message>
+    <message>
+        <source>IDS_DIAGNOSE_MEID</source>
+        <translation>MEID</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_AUTOMATIC</source>
+        <translation>自动</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_MANUAL</source>
+        <translation>手动</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_ATTACHED</source>
+        <translation>已附着</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_NOT_ATTACHED</source>
+        <translation>未附着</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_NOT_REGISTERED</source>
+        <translation>未注册</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REGISTERED</source>
+        <translation>已注册</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REGISTERING</source>
+        <translation>正在注册</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_REG_DENIED</source>
+        <translation>注册被拒绝</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_ROAMING</source>
+        <translation>漫游</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_NOT_INITIALIZED</source>
+        <translation>PIN 未初始化</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_READY</source>
+        <translation>就绪</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_REQUIRED</source>
+        <translation>需要 PIN</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PUK_REQUIRED</source>
+        <translation>需要 PUK</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN_BLOCKED</source>
+        <translation>PIN 已锁定</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PIN2_REQUIRED</source>
+        <translation>需要 PIN2</translation>
+    </message>
+    <message>
+        <source>IDS_LANG_PUK2_REQUIRED</source>
+        <translation>需要 PUK2</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Diagnosis host</source>
+        <translation>诊断主程序</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation>诊断(&amp;D)</translation>
+    </message>
+    <message>
+        <source>The diagnostics window could not be opened.</source>
+        <translation>无法打开诊断窗口。</translation>
+    </message>
+</context>
+<context>
+    <name>ModemWindow</name>
+    <message>
+        <source>&amp;Plug in</source>
+        <translation>插入(&amp;P)</translation>
+    </message>
+    <message>
+        <source>&amp;Unplug</source>
+        <translation>拔出(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>调制解调器</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>说明</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Plugged in</source>
+        <translation>已插入</translation>
+    </message>
+    <message>
+        <source>Unplugged</source>
+        <translation>已拔出</translation>
+    </message>
+</context>
+</TS>

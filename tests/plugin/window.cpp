@@ -3,6 +3,7 @@
 
 // The tabbed window: what it is built of, what fills it, what each action costs, how it ends.
 
+#include "ConfigSchema.h"
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsUIPlugin.h"
 #include "PluginTest.h"
@@ -14,6 +15,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <QTranslator>
 #include <QtTest>
@@ -44,7 +46,7 @@ private Q_SLOTS:
     void cleanup() { tearDown(); }
 
     void widgets();
-    void everyNameIsKnown();
+    void schemaListsTheRows();
     void actions_data() { addRows(TEST_SOURCE_DIR "/window.txt", "actions"); }
     void actions();
     void saveButton_data() { addRows(TEST_SOURCE_DIR "/window.txt", "save button"); }
@@ -97,26 +99,43 @@ void WindowTest::widgets()
     QCOMPARE(captions.size(), 2 * 31);
 }
 
-/// Each row of the shipped file has a value, and there are as many as the dispatch knows.
-void WindowTest::everyNameIsKnown()
+/// The schema lists the rows that have values, and no others. Whatever a name is compared with
+/// stands as a literal in the source.
+void WindowTest::schemaListsTheRows()
 {
-    open();
-    QStringList unanswered;
-    int rows = 0;
-    for (const TabDetails &tab : *DiagnosticsConfigParse::GetInstance()->GetTabInformation()) {
-        for (const TabItem &item : *tab.items) {
-            ++rows;
+    QFile schema(QLatin1String(DIAG_SOURCE_DIR "/config/DiagnosisConfig.xsd"));
+    QFile source(QLatin1String(DIAG_SOURCE_DIR "/src/DiagnosisPlugin/DiagnosticsUIPlugin.cpp"));
+    QVERIFY(schema.open(QIODevice::ReadOnly) && source.open(QIODevice::ReadOnly));
+    QStringList listed;
+    const QMap<QString, QStringList> rowsOfTabs = ConfigSchema::rowsOfTabs(schema.readAll());
+    for (const QString &tab : rowsOfTabs.keys()) {
+        for (const QString &row : rowsOfTabs.value(tab))
+            listed.append(tab + QLatin1String(": ") + row);
+    }
+    QStringList literals;
+    auto match = QRegularExpression(QLatin1String("\"([^\"\n%]+)\""))
+                     .globalMatch(QString::fromUtf8(source.readAll()));
+    while (match.hasNext())
+        literals.append(match.next().captured(1));
+    literals.removeDuplicates();
+
+    QCOMPARE(m_plugin->Init(), 1);
+    QStringList unlisted;
+    for (const QString &tab : literals) {
+        for (const QString &row : literals) {
             m_log->takeLog();
             QString value;
-            m_plugin->getValueLabelVal(tab.name, item.name, &value);
+            m_plugin->getValueLabelVal(tab, row, &value);
             // A known name asks the query layer, whose lines tell so.
-            if (m_log->takeLog().filter(QLatin1String("DiagnosticsUILogic: ")).isEmpty())
-                unanswered.append(item.name);
+            const bool known =
+                !m_log->takeLog().filter(QLatin1String("DiagnosticsUILogic: ")).isEmpty();
+            const QString name = tab + QLatin1String(": ") + row;
+            if (known && !listed.removeOne(name))
+                unlisted.append(name);
         }
     }
-    QCOMPARE(unanswered, QStringList());
-    QCOMPARE(rows, 31);
-    DiagnosticsConfigParse::DestroyInstance();
+    QVERIFY2(unlisted.isEmpty(), qPrintable(unlisted.join(QLatin1Char('\n'))));
+    QVERIFY2(listed.isEmpty(), qPrintable(listed.join(QLatin1Char('\n'))));
 }
 
 /// What each action costs in SDK calls, and what it shows.

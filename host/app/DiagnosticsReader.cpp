@@ -57,7 +57,8 @@ QList<DiagnosticsRow> rowsOf(const QWidget *page)
         const QLabel *const value = labelAt(form, row, QFormLayout::FieldRole);
         if (caption && value && caption->objectName().startsWith(QLatin1String(labelPrefix)) &&
             value->objectName() == caption->objectName() + QLatin1String(valueSuffix))
-            rows.append({caption->text(), value->text()});
+            rows.append({caption->objectName().mid(int(sizeof labelPrefix) - 1), caption->text(),
+                         value->text()});
     }
     return rows;
 }
@@ -97,27 +98,15 @@ QList<DiagnosticsPage> DiagnosticsReader::read() const
 {
     QList<DiagnosticsPage> pages;
     if (const QFrame *const box = boxOf(m_window))
-        pages.append({m_window->windowTitle(), rowsOf(box)});
+        pages.append({QString(), m_window->windowTitle(), rowsOf(box)});
     if (QTabWidget *const tabs = tabsOf(m_window)) {
         const int shown = tabs->currentIndex();
         for (int index = 0; index < tabs->count(); ++index) {
             tabs->setCurrentIndex(index);
-            pages.append({tabs->tabText(index), rowsOf(tabs->widget(index))});
+            const QWidget *const page = tabs->widget(index);
+            pages.append({tabName(page), tabs->tabText(index), rowsOf(page)});
         }
         tabs->setCurrentIndex(shown);
     }
     return pages;
-}
-
-QString DiagnosticsReader::text() const
-{
-    QStringList blocks;
-    const QList<DiagnosticsPage> pages = read();
-    for (const DiagnosticsPage &page : pages) {
-        QString block = page.title + QLatin1Char('\n');
-        for (const DiagnosticsRow &row : page.rows)
-            block += QStringLiteral("  %1: %2\n").arg(row.caption, row.value);
-        blocks.append(block);
-    }
-    return blocks.join(QLatin1Char('\n'));
 }

@@ -12,12 +12,14 @@
 
 struct DiagnosticsRow
 {
+    QString name; ///< the configured name; in the window of CDMA devices the resource key
     QString caption;
     QString value;
 };
 
 struct DiagnosticsPage
 {
+    QString name; ///< the configured name; null for the window of CDMA devices
     QString title;
     QList<DiagnosticsRow> rows;
 };
@@ -40,9 +42,6 @@ public:
 
     /// All pages. Each tab is visited, which fills it, and the one shown now is shown again.
     QList<DiagnosticsPage> read() const;
-
-    /// All pages as text: a line for each title, one for each row, an empty line between pages.
-    QString text() const;
 
 private:
     QPointer<QWidget> m_window;

@@ -7,11 +7,15 @@
 #include "Log.h"
 #include "MainWindow.h"
 #include "ModemSource.h"
+#include "Options.h"
 #include "PluginLoader.h"
+#include "Report.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
+#include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QPixmap>
@@ -20,37 +24,6 @@
 #include <cstdlib>
 
 namespace {
-
-enum ExitCode
-{
-    Success = 0,
-    WrongUsage = 1,
-    PluginMissing = 2,
-    WrongInterface = 3,
-    InitFailed = 4,
-    WindowNotOpened = 5,
-    FileNotWritten = 6
-};
-
-const char description[] = "Host of the diagnostics plug-in, on a simulated or a real modem.\n"
-                           "\n"
-                           "Exit codes:\n"
-                           "  0  success\n"
-                           "  1  wrong usage: unknown option, modem, language or tab\n"
-                           "  2  the plug-in is missing or cannot be loaded\n"
-                           "  3  the plug-in does not have the host's interfaces\n"
-                           "  4  the plug-in's initialisation failed\n"
-                           "  5  the diagnostics window could not be opened\n"
-                           "  6  a file could not be written";
-
-/// What the command line asks for.
-struct Request
-{
-    QString tab;
-    QString screenshot;
-    bool open;
-    bool print;
-};
 
 int fail(ExitCode code, const QString &reason)
 {
@@ -73,15 +46,23 @@ QString hostFolder(const char *relative)
                            QLatin1String(relative));
 }
 
-/// Without a wish the language of the system, if the host has it.
-bool chooseLanguage(const QString &folder, const QString &wish)
+QString pluginFolder()
 {
-    if (!wish.isNull())
-        return HostCore::setLanguage(folder, wish);
-    const QString system = QLocale::system().name(); // "zh_CN", "de_AT"
-    return HostCore::setLanguage(folder, system) ||
-           HostCore::setLanguage(folder, system.section(QLatin1Char('_'), 0, 0)) ||
-           HostCore::setLanguage(folder, QStringLiteral("en"));
+    return hostFolder(HOST_LIBRARY_DIR) + QLatin1String("/plugins/DiagnosisPlugin/");
+}
+
+/// A null language becomes that of the system, if the host has it, else English.
+bool chooseLanguage(const QString &folder, QString *language)
+{
+    if (language->isNull()) {
+        const QString system = QLocale::system().name(); // "zh_CN", "de_AT"
+        *language = QStringLiteral("en");
+        for (const QString &name : {system.section(QLatin1Char('_'), 0, 0), system}) {
+            if (HostCore::languages(folder).contains(name))
+                *language = name;
+        }
+    }
+    return HostCore::setLanguage(folder, *language);
 }
 
 ExitCode exitCode(PluginLoader::State reached)
@@ -100,35 +81,69 @@ ExitCode exitCode(PluginLoader::State reached)
     return Success;
 }
 
+/// What identifies the configuration that the window was made of.
+QString configurationSum()
+{
+    QFile file(pluginFolder() + QLatin1String("DiagnosisConfig.xml"));
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+        return QStringLiteral("missing");
+    return QStringLiteral("SHA-256 ") + QLatin1String(hash.result().toHex());
+}
+
+QByteArray report(const QList<DiagnosticsPage> &pages, const ModemSource &modem,
+                  const Options &options)
+{
+    Report report(pages);
+    if (options.print)
+        return report.rows().toUtf8();
+    const QDateTime now = QDateTime::currentDateTime();
+    report.addFact(QStringLiteral("Date"),
+                   now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate));
+    report.addFact(QStringLiteral("Host"),
+                   QStringLiteral("diagnosis-host ") + QCoreApplication::applicationVersion());
+    report.addFact(QStringLiteral("Configuration"), configurationSum());
+    report.addFact(QStringLiteral("Toolkit"), QStringLiteral("Qt ") + QLatin1String(qVersion()));
+    report.addFact(QStringLiteral("Language"), options.language);
+    report.addFact(QStringLiteral("Modem"), modem.name());
+    if (!modem.problem().isEmpty())
+        report.addFact(QStringLiteral("Problem"), modem.problem());
+    report.addFact(QStringLiteral("Identifiers"),
+                   options.mask ? QStringLiteral("masked") : QStringLiteral("shown"));
+    if (options.mask)
+        report.mask();
+    return options.json ? report.json() : report.text().toUtf8();
+}
+
 /// Opens the diagnostics window and does with it what is asked.
-int showDiagnostics(MainWindow &window, const Request &request)
+int showDiagnostics(MainWindow &window, const ModemSource &modem, const Options &options)
 {
     if (!window.openDiagnostics())
         return fail(WindowNotOpened, QStringLiteral("the diagnostics window could not be opened "
                                                     "(--log tells why)"));
     const DiagnosticsReader reader;
-    if (!request.tab.isNull() && !reader.selectTab(request.tab))
-        return failUsage("tab", request.tab, reader.tabNames());
-    if (request.print &&
-        (std::fputs(reader.text().toUtf8().constData(), stdout) < 0 || std::fflush(stdout) != 0))
-        return fail(FileNotWritten, QStringLiteral("cannot write to standard output"));
-    if (!request.screenshot.isNull()) {
+    if (!options.tab.isNull() && !reader.selectTab(options.tab))
+        return failUsage("tab", options.tab, reader.tabNames());
+    QString error;
+    if ((options.print || options.report) &&
+        !Report::write(report(reader.read(), modem, options), options.reportFile, &error))
+        return fail(FileNotWritten, error);
+    if (!options.screenshot.isNull()) {
         QCoreApplication::processEvents();
-        const bool named = !QFileInfo(request.screenshot).suffix().isEmpty();
+        const bool named = !QFileInfo(options.screenshot).suffix().isEmpty();
         if (!reader.window() ||
-            !reader.window()->grab().save(request.screenshot, named ? nullptr : "PNG"))
+            !reader.window()->grab().save(options.screenshot, named ? nullptr : "PNG"))
             return fail(FileNotWritten,
-                        QStringLiteral("cannot write the picture %1").arg(request.screenshot));
+                        QStringLiteral("cannot write the picture %1").arg(options.screenshot));
     }
     return Success;
 }
 
 /// The host's life, from the attached modem to the end of its windows.
-int run(const ModemSource &modem, const Request &request)
+int run(const ModemSource &modem, const Options &options)
 {
     const HostPlugins hostPlugins;
-    PluginLoader plugin(hostFolder(HOST_LIBRARY_DIR) +
-                        QLatin1String("/plugins/DiagnosisPlugin/libDiagnosisPlugin.so"));
+    PluginLoader plugin(pluginFolder() + QLatin1String("libDiagnosisPlugin.so"));
     if (!plugin.start())
         return fail(exitCode(plugin.state()), plugin.error());
 
@@ -136,9 +151,9 @@ int run(const ModemSource &modem, const Request &request)
         std::fprintf(stderr, "diagnosis-host: %s\n", qUtf8Printable(modem.problem()));
     MainWindow window(modem, plugin);
     window.show();
-    if (request.open) {
-        const int code = showDiagnostics(window, request);
-        if (code != Success || request.print || !request.screenshot.isNull()) {
+    if (options.open) {
+        const int code = showDiagnostics(window, modem, options);
+        if (code != Success || options.print || options.report || !options.screenshot.isNull()) {
             window.close();
             return code;
         }
@@ -153,87 +168,40 @@ int main(int argc, char *argv[])
     // Nothing here draws with OpenGL; loading its drivers would only slow the start.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
-        qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    if (Options::needNoScreen(argc, argv) ||
+        (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
+         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     Log::install();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
     QApplication::setApplicationVersion(QStringLiteral(HOST_VERSION));
 
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QLatin1String(description));
-    const QString name = QStringLiteral("name");
-    const QString file = QStringLiteral("file");
-    const QCommandLineOption modem(
-        QStringLiteral("modem"),
-        QStringLiteral(
-            "Attach this modem: a simulated one, \"modemmanager\" for the first modem of the "
-            "system's service, \"modemmanager:1\" for the second, or \"auto\" (the default) "
-            "for the service's where there is one and a simulated one otherwise."),
-        name, QStringLiteral("auto"));
-    const QCommandLineOption listModems(QStringLiteral("list-modems"),
-                                        QStringLiteral("List the modems and exit."));
-    const QCommandLineOption language(
-        QStringLiteral("language"),
-        QStringLiteral("Show texts in this language (default: the system's, else English)."), name);
-    const QCommandLineOption open(QStringLiteral("open"),
-                                  QStringLiteral("Open the diagnostics window at once."));
-    const QCommandLineOption tab(QStringLiteral("tab"),
-                                 QStringLiteral("Open it and show this tab, by its configured name "
-                                                "(\"Network status\")."),
-                                 name);
-    const QCommandLineOption print(
-        QStringLiteral("print"),
-        QStringLiteral("Open it, print all its captions and values, and exit."));
-    const QCommandLineOption screenshot(
-        QStringLiteral("screenshot"),
-        QStringLiteral("Open it, write its picture to a file, and exit."), file);
-    const QCommandLineOption log(QStringLiteral("log"),
-                                 QStringLiteral("Write the plug-in's log to a file; \"-\" stands "
-                                                "for standard error."),
-                                 file);
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
-                                  QStringLiteral("Show this help and exit."));
-    parser.addOptions({modem, listModems, language, open, tab, print, screenshot, log, help});
-    const QCommandLineOption version = parser.addVersionOption();
-    if (!parser.parse(QApplication::arguments()))
-        return fail(WrongUsage, parser.errorText());
-    if (parser.isSet(help))
-        parser.showHelp(Success);
-    if (parser.isSet(version))
-        parser.showVersion();
-    if (!parser.positionalArguments().isEmpty())
-        return fail(WrongUsage, QStringLiteral("unexpected argument \"%1\"")
-                                    .arg(parser.positionalArguments().constFirst()));
+    Options options;
+    QString error;
+    if (!options.parse(QApplication::arguments(), &error))
+        return fail(WrongUsage, error);
 
     const QString data = hostFolder(HOST_DATA_DIR);
     ModemSource source(data + QLatin1String("/modems"));
-    if (parser.isSet(listModems)) {
+    if (options.listModems) {
         for (const QString &known : source.names())
             std::puts(qUtf8Printable(known));
         return Success;
     }
-    if (parser.isSet(log) && !Log::open(parser.value(log)))
-        return fail(FileNotWritten,
-                    QStringLiteral("cannot write the log %1").arg(parser.value(log)));
+    if (!options.log.isNull() && !Log::open(options.log))
+        return fail(FileNotWritten, QStringLiteral("cannot write the log %1").arg(options.log));
 
     const QString translations = data + QLatin1String("/translations");
-    if (!chooseLanguage(translations, parser.isSet(language) ? parser.value(language) : QString()))
-        return failUsage("language", parser.value(language), HostCore::languages(translations));
+    if (!chooseLanguage(translations, &options.language))
+        return failUsage("language", options.language, HostCore::languages(translations));
     HostCore::setPluginLibraryPath(hostFolder(HOST_LIBRARY_DIR));
     HostCore::setSettingsFile(data + QLatin1String("/host.ini"));
     HostCore::applyLook(application);
 
-    const Request request{parser.isSet(tab) ? parser.value(tab) : QString(),
-                          parser.isSet(screenshot) ? parser.value(screenshot) : QString(),
-                          parser.isSet(open) || parser.isSet(tab) || parser.isSet(print) ||
-                              parser.isSet(screenshot),
-                          parser.isSet(print)};
-    QString error;
-    if (!source.attach(parser.value(modem), &error))
+    if (!source.attach(options.modem, &error))
         return fail(WrongUsage, error);
-    const int code = run(source, request);
+    const int code = run(source, options);
     if (!source.detach()) {
         std::fflush(nullptr);
         std::_Exit(code);

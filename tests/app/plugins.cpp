@@ -7,6 +7,7 @@
 #include "ModemControl.h"
 #include "ModemSource.h"
 #include "PluginLoader.h"
+#include "Report.h"
 #include "support/Rows.h"
 
 #include <QDialog>
@@ -149,6 +150,16 @@ private Q_SLOTS:
             QCOMPARE(answers(), QStringLiteral("- - - -"));
         }
         QVERIFY(!Startup::GetPluginContainer());
+    }
+
+    void mask_data() { addRows("mask.txt", {"row", "value", "expected"}); }
+    void mask()
+    {
+        QFETCH(QByteArray, row);
+        QFETCH(QByteArray, value);
+        QFETCH(QByteArray, expected);
+        QCOMPARE(Report::masked({QString::fromLatin1(row), QString(), QString::fromLatin1(value)}),
+                 QString::fromLatin1(expected));
     }
 
 #ifdef WITH_DIAGNOSIS_PLUGIN

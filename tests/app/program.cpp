@@ -3,6 +3,7 @@
 
 #include "support/Rows.h"
 
+#include <QCryptographicHash>
 #include <QImage>
 
 #include <sys/socket.h>
@@ -73,6 +74,66 @@ private Q_SLOTS:
     void realPlugin()
     {
         usage();
+    }
+
+    void report_data()
+    {
+        addRows("reports.txt", {"arguments", "golden"});
+    }
+    /// To a file, with the time zone, and where no window could be seen.
+    void report()
+    {
+        QFETCH(QByteArray, arguments);
+        QFETCH(QByteArray, golden);
+        const QTemporaryDir folder;
+        QFile written(folder.filePath(QStringLiteral("report")));
+        QFile expected(QStringLiteral(TEST_SOURCE_DIR "/") + QLatin1String(golden));
+        QFile configuration(QStringLiteral(DIAG_SOURCE_DIR "/config/DiagnosisConfig.xml"));
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("TZ"), QStringLiteral("<+05>-5"));
+        environment.insert(QStringLiteral("DISPLAY"), QStringLiteral(":none"));
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(HOST_PROGRAM),
+                      QString::fromLatin1(arguments).split(QLatin1Char(' ')) +
+                          QStringList({QStringLiteral("--report"), written.fileName()}));
+        QVERIFY(process.waitForFinished(60000));
+        QVERIFY2(process.exitCode() == 0, process.readAllStandardError());
+        QVERIFY(written.open(QIODevice::ReadOnly) && expected.open(QIODevice::ReadOnly) &&
+                configuration.open(QIODevice::ReadOnly));
+        QString text = QString::fromUtf8(written.readAll());
+        text.replace(
+            QRegularExpression(QStringLiteral("\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d")),
+            QStringLiteral("@DATE@"));
+        const QByteArray wanted =
+            expected.readAll()
+                .replace("@QT@", qVersion())
+                .replace("@VERSION@", HOST_VERSION)
+                .replace("@SUM@", QCryptographicHash::hash(configuration.readAll(),
+                                                           QCryptographicHash::Sha256)
+                                      .toHex());
+        QCOMPARE(text.split(QLatin1Char('\n')), QString::fromUtf8(wanted).split(QLatin1Char('\n')));
+    }
+
+    /// A disk that is full leaves the earlier report as it was, and nothing beside it.
+    void reportNotWritten()
+    {
+        const QTemporaryDir folder;
+        QFile earlier(folder.filePath(QStringLiteral("report")));
+        QVERIFY(earlier.open(QIODevice::ReadWrite) && earlier.write("earlier") && earlier.flush());
+        QProcess process;
+        process.start(QStringLiteral("sh"),
+                      {QStringLiteral("-c"),
+                       QStringLiteral("trap '' XFSZ; ulimit -f 0; exec \"$0\" \"$@\""),
+                       QStringLiteral(HOST_PROGRAM), QStringLiteral("--modem"),
+                       QStringLiteral("wcdma"), QStringLiteral("--report"), earlier.fileName()});
+        QVERIFY(process.waitForFinished(60000));
+        QCOMPARE(process.exitCode(), 6);
+        QVERIFY(process.readAllStandardError().contains("report: File too large"));
+        QVERIFY(earlier.seek(0));
+        QCOMPARE(earlier.readAll(), QByteArray("earlier"));
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(QStringLiteral("report")));
     }
 
     /// A bus that takes the connection and then says nothing, which the toolkit waits for.

@@ -1,0 +1,114 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "Options.h"
+
+#include <QCommandLineParser>
+
+#include <algorithm>
+
+namespace {
+
+const char Description[] = "Host of the diagnostics plug-in, on a simulated or a real modem.\n"
+                           "\n"
+                           "Exit codes:\n"
+                           "  0  success\n"
+                           "  1  wrong usage: unknown option, modem, language, tab or format\n"
+                           "  2  the plug-in is missing or cannot be loaded\n"
+                           "  3  the plug-in does not have the host's interfaces\n"
+                           "  4  the plug-in's initialisation failed\n"
+                           "  5  the diagnostics window could not be opened\n"
+                           "  6  a file could not be written\n"
+                           "  7  the configuration has faults, which are listed\n"
+                           "  8  the configuration or its schema could not be read";
+
+struct Known
+{
+    const char *name;
+    const char *value; ///< empty for an option without one
+    const char *description;
+};
+
+// clang-format off
+const Known KnownOptions[] = {
+    {"modem", "name",
+     "Attach this modem: a simulated one, \"modemmanager\" for the first modem of the system's service, "
+     "\"modemmanager:1\" for the second, or \"auto\" (the default) for the service's where there is one "
+     "and a simulated one otherwise."},
+    {"list-modems", "", "List the modems and exit."},
+    {"language", "name", "Show texts in this language (default: the system's, else English)."},
+    {"open", "", "Open the diagnostics window at once."},
+    {"tab", "name", "Open it and show this tab, by its configured name (\"Network status\")."},
+    {"print", "", "Open it, print all its captions and values, and exit."},
+    {"screenshot", "file", "Open it, write its picture to a file, and exit."},
+    {"report", "",
+     "Write all captions and values, below a head (date, versions, modem), to the given file or to standard "
+     "output, and exit. No window is seen."},
+    {"format", "name", "Write the report as \"text\" (the default) or as \"json\"."},
+    {"mask", "", "Hide identifiers, location and addresses in the report, so that it can be published."},
+    {"log", "file", "Write the plug-in's log to a file; \"-\" stands for standard error."},
+};
+// clang-format on
+
+} // namespace
+
+bool Options::needNoScreen(int count, const char *const *arguments)
+{
+    return std::any_of(arguments, arguments + count,
+                       [](const char *argument) { return qstrcmp(argument, "--report") == 0; });
+}
+
+bool Options::parse(const QStringList &arguments, QString *error)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QLatin1String(Description));
+    for (const Known &option : KnownOptions)
+        parser.addOption({QLatin1String(option.name), QLatin1String(option.description),
+                          QLatin1String(option.value)});
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this help and exit."));
+    parser.addOption(help);
+    const QCommandLineOption version = parser.addVersionOption();
+    parser.addPositionalArgument(
+        QStringLiteral("file"),
+        QStringLiteral("Where the report goes; \"-\" stands for standard output."),
+        QStringLiteral("[file]"));
+    if (!parser.parse(arguments)) {
+        *error = parser.errorText();
+        return false;
+    }
+    if (parser.isSet(help))
+        parser.showHelp(Success);
+    if (parser.isSet(version))
+        parser.showVersion();
+
+    const auto isSet = [&parser](const char *name) { return parser.isSet(QLatin1String(name)); };
+    const auto value = [&parser, isSet](const char *name, const char *otherwise = nullptr) {
+        return isSet(name) ? parser.value(QLatin1String(name)) : QString::fromLatin1(otherwise);
+    };
+    modem = value("modem", "auto");
+    listModems = isSet("list-modems");
+    language = value("language");
+    tab = value("tab");
+    print = isSet("print");
+    screenshot = value("screenshot");
+    report = isSet("report");
+    const QString format = value("format", "text");
+    json = format == QLatin1String("json");
+    mask = isSet("mask");
+    log = value("log");
+    const bool shows = isSet("open") || isSet("tab") || print || isSet("screenshot");
+    open = shows || report;
+    const QStringList files = parser.positionalArguments();
+    reportFile = files.value(0);
+
+    if (files.size() > int(report))
+        *error = QStringLiteral("unexpected argument \"%1\"").arg(files.constLast());
+    else if (report && shows)
+        *error = QStringLiteral("--report goes without --open, --tab, --print and --screenshot");
+    else if (!report && (mask || isSet("format")))
+        *error = QStringLiteral("--mask and --format go with --report only");
+    else if (!json && format != QLatin1String("text"))
+        *error = QStringLiteral("unknown format \"%1\", known are: text, json").arg(format);
+    return error->isEmpty();
+}

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef OPTIONS_H
+#define OPTIONS_H
+
+#include <QString>
+#include <QStringList>
+
+/// Scripts know these numbers.
+enum ExitCode
+{
+    Success = 0,
+    WrongUsage = 1,
+    PluginMissing = 2,
+    WrongInterface = 3,
+    InitFailed = 4,
+    WindowNotOpened = 5,
+    FileNotWritten = 6
+};
+
+/// What the command line asks for. Texts that it does not give are null.
+struct Options
+{
+    /// Reads the arguments; false, with the reason in *\a error, when they are wrong. Ends the
+    /// program when they ask for help or the version.
+    bool parse(const QStringList &arguments, QString *error);
+
+    /// Whether the arguments ask for what shows no window: decided before there is an application.
+    static bool needNoScreen(int count, const char *const *arguments);
+
+    QString modem;
+    QString language;
+    QString log;
+    QString tab;
+    QString screenshot;
+    QString reportFile; ///< null and "-" stand for standard output
+    bool listModems = false;
+    bool open = false;
+    bool print = false;
+    bool report = false;
+    bool json = false;
+    bool mask = false;
+};
+
+#endif

@@ -30,6 +30,7 @@ build_packages=(
     fonts-dejavu-core
     fonts-wqy-microhei # for Chinese
     g++
+    libxml2-dev
     ninja-build
     qtbase5-dev
     qttools5-dev

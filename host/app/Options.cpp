@@ -46,6 +46,8 @@ const Known KnownOptions[] = {
      "output, and exit. No window is seen."},
     {"format", "name", "Write the report as \"text\" (the default) or as \"json\"."},
     {"mask", "", "Hide identifiers, location and addresses in the report, so that it can be published."},
+    {"check-config", "file",
+     "Say what is wrong in a DiagnosisConfig.xml and what the plug-in passes over in silence, and exit."},
     {"log", "file", "Write the plug-in's log to a file; \"-\" stands for standard error."},
 };
 // clang-format on
@@ -54,8 +56,10 @@ const Known KnownOptions[] = {
 
 bool Options::needNoScreen(int count, const char *const *arguments)
 {
-    return std::any_of(arguments, arguments + count,
-                       [](const char *argument) { return qstrcmp(argument, "--report") == 0; });
+    return std::any_of(arguments, arguments + count, [](const char *argument) {
+        return qstrcmp(argument, "--report") == 0 ||
+               QByteArray(argument).startsWith("--check-config");
+    });
 }
 
 bool Options::parse(const QStringList &arguments, QString *error)
@@ -96,6 +100,7 @@ bool Options::parse(const QStringList &arguments, QString *error)
     const QString format = value("format", "text");
     json = format == QLatin1String("json");
     mask = isSet("mask");
+    configFile = value("check-config");
     log = value("log");
     const bool shows = isSet("open") || isSet("tab") || print || isSet("screenshot");
     open = shows || report;

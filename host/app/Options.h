@@ -16,7 +16,9 @@ enum ExitCode
     WrongInterface = 3,
     InitFailed = 4,
     WindowNotOpened = 5,
-    FileNotWritten = 6
+    FileNotWritten = 6,
+    ConfigHasFindings = 7,
+    FileNotRead = 8
 };
 
 /// What the command line asks for. Texts that it does not give are null.
@@ -35,6 +37,7 @@ struct Options
     QString tab;
     QString screenshot;
     QString reportFile; ///< null and "-" stand for standard output
+    QString configFile; ///< to be checked
     bool listModems = false;
     bool open = false;
     bool print = false;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
+#include "ConfigCheck.h"
 #include "DiagnosticsReader.h"
 #include "HostCore.h"
 #include "HostPlugins.h"
@@ -63,6 +64,19 @@ bool chooseLanguage(const QString &folder, QString *language)
         }
     }
     return HostCore::setLanguage(folder, *language);
+}
+
+/// Prints what is wrong in a configuration.
+int checkConfig(const QString &fileName)
+{
+    QStringList findings;
+    QString error;
+    if (!ConfigCheck::run(fileName, pluginFolder() + QLatin1String("DiagnosisConfig.xsd"),
+                          &findings, &error))
+        return fail(FileNotRead, error);
+    for (const QString &finding : findings)
+        std::printf("%s:%s\n", qUtf8Printable(fileName), qUtf8Printable(finding));
+    return findings.isEmpty() ? Success : ConfigHasFindings;
 }
 
 ExitCode exitCode(PluginLoader::State reached)
@@ -195,6 +209,8 @@ int main(int argc, char *argv[])
     const QString translations = data + QLatin1String("/translations");
     if (!chooseLanguage(translations, &options.language))
         return failUsage("language", options.language, HostCore::languages(translations));
+    if (!options.configFile.isNull())
+        return checkConfig(options.configFile);
     HostCore::setPluginLibraryPath(hostFolder(HOST_LIBRARY_DIR));
     HostCore::setSettingsFile(data + QLatin1String("/host.ini"));
     HostCore::applyLook(application);

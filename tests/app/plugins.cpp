@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
+#include "ConfigCheck.h"
 #include "DiagnosticsReader.h"
 #include "HostPlugins.h"
 #include "MainWindow.h"
@@ -19,7 +20,8 @@
 
 #include <algorithm>
 
-/// The host's loader against plug-ins that misbehave, its window, and its own plug-ins.
+/// The host's loader against plug-ins that misbehave, its window, its own plug-ins, and its check
+/// of configurations.
 class PluginsTest : public QObject
 {
     Q_OBJECT
@@ -150,6 +152,28 @@ private Q_SLOTS:
             QCOMPARE(answers(), QStringLiteral("- - - -"));
         }
         QVERIFY(!Startup::GetPluginContainer());
+    }
+
+    void config_data() { addRows("config.txt", {"text", "instead", "said"}); }
+    /// One fault at a time in a configuration that has none.
+    void config()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, instead);
+        QFETCH(QByteArray, said);
+        QFile good(QStringLiteral(TEST_SOURCE_DIR "/config.xml"));
+        QTemporaryFile faulty;
+        QVERIFY(good.open(QIODevice::ReadOnly) && faulty.open());
+        QByteArray content = good.readAll();
+        QVERIFY(content.contains(text));
+        faulty.write(content.replace(content.indexOf(text), text.size(), instead));
+        QVERIFY(faulty.flush());
+        QStringList findings;
+        QString error;
+        QVERIFY(ConfigCheck::run(faulty.fileName(),
+                                 QStringLiteral(DIAG_SOURCE_DIR "/config/DiagnosisConfig.xsd"),
+                                 &findings, &error));
+        QCOMPARE(findings.join(QLatin1Char('\n')), QString::fromUtf8(said));
     }
 
     void mask_data() { addRows("mask.txt", {"row", "value", "expected"}); }

@@ -39,7 +39,10 @@ private Q_SLOTS:
     void usage()
     {
         QFETCH(QByteArray, arguments);
-        run(QStringLiteral(HOST_PROGRAM), QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+        run(QStringLiteral(HOST_PROGRAM),
+            QString::fromLatin1(arguments)
+                .split(QLatin1Char(' '))
+                .replaceInStrings(QStringLiteral("@SOURCE@"), QStringLiteral(DIAG_SOURCE_DIR)));
     }
 
     void badPlugin_data() { addRows("bad_plugins.txt", {"plugin", "code", "output", "error"}); }

@@ -1,0 +1,424 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "ConfigCheck.h"
+
+#include "ConfigSchema.h"
+#include "core/Change.h"
+
+#include <QFile>
+#include <QHash>
+#include <QList>
+#include <QPair>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <libxml/parserInternals.h>
+#include <libxml/xmlschemas.h>
+
+#include <memory>
+
+namespace {
+
+#if LIBXML_VERSION >= 21200
+typedef const xmlError *ErrorPointer;
+#else
+typedef xmlErrorPtr ErrorPointer;
+#endif
+
+template <typename Object>
+using Owner = std::unique_ptr<Object, void (*)(Object *)>;
+
+/// Nobody writes such a configuration by hand.
+const qint64 LargestFile = 1 << 18; // bytes
+
+/// What becomes of something that the schema refuses, by the place of the element or attribute, or
+/// by the constraint.
+struct Consequence
+{
+    const char *place;
+    const char *text;
+};
+
+// clang-format off
+const Consequence Consequences[] = {
+    {"veltdoc/tab@name",          "All its rows show the unknown text."},
+    {"veltdoc/tab@show",          "It is shown: only \"false\" hides it."},
+    {"tab/item@show",             "It is shown: only \"false\" hides it."},
+    {"tab/tab",                   "It ends the outer tab and is not read."},
+    {"function/item@name",        "There is no such setting."},
+    {"function/item@value",       "There is a Save button only where it is \"true\"."},
+    {"CDMADiagnostics/item@name", "There is no such setting."},
+    {"CDMADiagnostics/item@show", "The row is listed only where it contains \"true\"."},
+    {"veltdoc/item",              "It is a setting of the section before it, and ignored where there is none."},
+    {"common/simmsgprompt",       "Of a block the first one is read, with all its blanks."},
+    {"customize/simmsgprompt",    "Of a block the first one is read, with all its blanks."},
+    {"settings",                  "It replaces the earlier setting."},
+    {"tabs",                      "The rows of all tabs of one name go to one page."},
+    {"rows",                      "Of the rows of one name only one is filled."},
+    {"devices",                   "It replaces the earlier wording."},
+};
+// clang-format on
+
+QString consequence(const QString &place)
+{
+    for (const Consequence &row : Consequences) {
+        if (place == QLatin1String(row.place))
+            return QLatin1Char(' ') + QLatin1String(row.text);
+    }
+    return QString();
+}
+
+QString text(const xmlChar *characters)
+{
+    return QString::fromUtf8(reinterpret_cast<const char *>(characters));
+}
+
+QString caption(const QString &resourceKey)
+{
+    return Change::tr(resourceKey, QStringLiteral("DiagnosisPlugin"));
+}
+
+QString quoted(const QString &text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+/// The check of a document. The parser calls it for each element, and then the validator that is
+/// plugged in behind it, whose errors therefore concern the current element.
+class Check
+{
+public:
+    Check(const QByteArray &document, const QMap<QString, QStringList> &rowsOfTabs)
+        : m_document(document), m_rowsOfTabs(rowsOfTabs)
+    {
+    }
+    Q_DISABLE_COPY(Check)
+
+    void run(xmlSchemaPtr schema);
+    QStringList findings() const;
+
+private:
+    typedef QPair<int, int> Position; ///< line and column, from 1
+
+    struct Element
+    {
+        QString parent;
+        QString name;
+        int offset = 0; ///< of its '<', in bytes
+        QHash<QString, QString> attributes;
+        QHash<QString, int> offsets; ///< of the attributes
+    };
+    struct Text
+    {
+        QString text;
+        int offset;
+    };
+
+    static Check *from(void *self) { return static_cast<Check *>(self); }
+    static void onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *);
+    static void onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
+                        const xmlChar **, int count, int, const xmlChar **attributes);
+    static void onText(void *self, const xmlChar *characters, int length);
+    static void onEnd(void *self, const xmlChar *, const xmlChar *, const xmlChar *);
+    static void onSyntaxError(void *self, ErrorPointer error);
+    static void onSchemaError(void *self, ErrorPointer error);
+
+    void parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator);
+    Position position(int offset) const;
+    void add(int offset, const QString &text);
+    void checkStart();
+    int indexOf(const QString &part) const;
+    void checkDocument();
+
+    const QByteArray m_document;
+    const QMap<QString, QStringList> m_rowsOfTabs;
+    xmlParserCtxtPtr m_parser = nullptr;
+    QList<Element> m_open;
+    Element m_current;
+    QString m_text;         ///< since the last tag
+    int m_root = -1;        ///< offset, once there is one that the plug-in reads
+    QList<Text> m_captions; ///< of the tabs that are shown
+    QList<Text> m_wordings;
+    bool m_hasCommonWording = false;
+    QMultiMap<Position, QString> m_findings;
+    QSet<Position> m_explained; ///< where the validator has nothing to add
+};
+
+void Check::run(xmlSchemaPtr schema)
+{
+    const Owner<xmlSchemaValidCtxt> validator(xmlSchemaNewValidCtxt(schema),
+                                              xmlSchemaFreeValidCtxt);
+    xmlSchemaSetValidStructuredErrors(validator.get(), onSchemaError, this);
+    xmlSetStructuredErrorFunc(this, onSyntaxError);
+    xmlSAXHandler handler{};
+    handler.initialized = XML_SAX2_MAGIC;
+    handler.internalSubset = onDoctype;
+    parse(handler, nullptr);
+    if (m_findings.isEmpty()) {
+        handler.startElementNs = onStart;
+        handler.characters = onText;
+        handler.cdataBlock = onText;
+        handler.endElementNs = onEnd;
+        parse(handler, validator.get());
+        if (m_root >= 0)
+            checkDocument();
+    }
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
+}
+
+/// A validator is for a document that is well-formed: it leaks what is still open.
+void Check::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
+{
+    const Owner<xmlParserCtxt> parser(
+        xmlCreateMemoryParserCtxt(m_document.constData(), m_document.size()), xmlFreeParserCtxt);
+    m_parser = parser.get();
+    const xmlSAXHandlerPtr ownHandler = m_parser->sax;
+    m_parser->sax = &handler;
+    m_parser->userData = this;
+    const xmlSchemaSAXPlugPtr plug =
+        validator ? xmlSchemaSAXPlug(validator, &m_parser->sax, &m_parser->userData) : nullptr;
+    xmlParseDocument(m_parser);
+    xmlSchemaSAXUnplug(plug);
+    m_parser->sax = ownHandler;
+}
+
+QStringList Check::findings() const
+{
+    QStringList lines;
+    for (auto finding = m_findings.cbegin(); finding != m_findings.cend(); ++finding)
+        lines.append(QStringLiteral("%1:%2: %3")
+                         .arg(QString::number(finding.key().first),
+                              QString::number(finding.key().second), finding.value()));
+    return lines;
+}
+
+Check::Position Check::position(int offset) const
+{
+    const QByteArray before = m_document.left(offset);
+    const int start = before.lastIndexOf('\n') + 1;
+    return {before.count('\n') + 1, QString::fromUtf8(before.mid(start)).size() + 1};
+}
+
+void Check::add(int offset, const QString &text)
+{
+    m_findings.insert(position(offset), text);
+    m_explained.insert(position(offset));
+}
+
+// Its entities could stand for anything, at any length.
+void Check::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
+{
+    Check *const check = from(self);
+    const int end = int(xmlByteConsumed(check->m_parser));
+    check->add(check->m_document.lastIndexOf('<', end - 1),
+               QStringLiteral("A document type declaration has no use here. Nothing behind it was "
+                              "checked."));
+    xmlStopParser(check->m_parser);
+}
+
+void Check::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
+                    const xmlChar **, int count, int, const xmlChar **attributes)
+{
+    Check *const check = from(self);
+    // The parser stands behind the attributes, which can hold no '<'.
+    const int end = int(xmlByteConsumed(check->m_parser));
+    Element element;
+    element.parent = check->m_open.isEmpty() ? QString() : check->m_open.last().name;
+    element.name = text(name);
+    element.offset = check->m_document.lastIndexOf('<', end - 1);
+    for (int index = 0; index < count; ++index) {
+        const xmlChar **const attribute = attributes + 5 * index;
+        const auto *const value = reinterpret_cast<const char *>(attribute[3]);
+        element.attributes.insert(text(attribute[0]),
+                                  QString::fromUtf8(value, int(attribute[4] - attribute[3])));
+    }
+    static const QRegularExpression written(
+        QStringLiteral("([^\\s=\"']+)\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
+    // One character a byte, whatever the encoding.
+    auto match = written.globalMatch(
+        QString::fromLatin1(check->m_document.mid(element.offset, end - element.offset)));
+    while (match.hasNext()) {
+        const QRegularExpressionMatch attribute = match.next();
+        element.offsets.insert(attribute.captured(1), element.offset + attribute.capturedStart());
+    }
+    check->m_current = element;
+    check->m_text.clear();
+    check->checkStart();
+    check->m_open.append(element);
+}
+
+void Check::onText(void *self, const xmlChar *characters, int length)
+{
+    Check *const check = from(self);
+    check->m_current = check->m_open.last();
+    check->m_text += QString::fromUtf8(reinterpret_cast<const char *>(characters), length);
+}
+
+void Check::onEnd(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
+{
+    Check *const check = from(self);
+    check->m_current = check->m_open.takeLast();
+    if (check->m_current.name == QLatin1String("simmsgprompt"))
+        check->m_wordings.append({check->m_text, check->m_current.offset});
+}
+
+void Check::onSyntaxError(void *self, ErrorPointer error)
+{
+    Check *const check = from(self);
+    if (!check->m_findings.isEmpty())
+        return; // it follows from that one
+    check->m_findings.insert({error->line, error->int2},
+                             QString::fromUtf8(error->message).trimmed() +
+                                 QStringLiteral(". The plug-in reads nothing behind it."));
+}
+
+void Check::onSchemaError(void *self, ErrorPointer error)
+{
+    Check *const check = from(self);
+    const Element &element = check->m_current;
+    QString message = QString::fromUtf8(error->message).trimmed();
+    static const QRegularExpression attributePart(
+        QStringLiteral("^Element '.*', attribute '(.*?)': "));
+    static const QRegularExpression constraintPart(
+        QStringLiteral("identity-constraint '(.*)'\\.$"));
+    static const QRegularExpression facetPart(QStringLiteral("\\[facet '\\w+'\\] "));
+    const QString attribute = attributePart.match(message).captured(1);
+    const QString constraint = constraintPart.match(message).captured(1);
+    const Position position = check->position(element.offsets.value(attribute, element.offset));
+    // A wrong attribute comes twice: once more as one that no constraint can compare.
+    if ((error->code == XML_SCHEMAV_CVC_IDC && constraint.isEmpty()) ||
+        check->m_explained.contains(position))
+        return;
+    QString place = element.parent + QLatin1Char('/') + element.name;
+    if (!attribute.isEmpty())
+        place += QLatin1Char('@') + attribute;
+    message.remove(facetPart);
+    message += consequence(constraint.isEmpty() ? place : constraint);
+    if (!check->m_findings.contains(position, message)) // text may come in pieces
+        check->m_findings.insert(position, message);
+}
+
+/// What the schema cannot say of the current element.
+void Check::checkStart()
+{
+    const auto attribute = [this](const char *name) {
+        return m_current.attributes.value(QLatin1String(name));
+    };
+    const auto offset = [this](const char *name) {
+        return m_current.offsets.value(QLatin1String(name), m_current.offset);
+    };
+    if (m_current.parent.isEmpty()) {
+        if (m_current.name == QLatin1String("veltdoc"))
+            m_root = m_current.offset;
+        else
+            add(m_current.offset, QStringLiteral("The document must be a <veltdoc>. What stands "
+                                                 "outside one is not read."));
+    } else if (m_current.name == QLatin1String("tab")) {
+        if (m_current.parent == QLatin1String("veltdoc") &&
+            attribute("show") != QLatin1String("false"))
+            m_captions.append({caption(attribute("resourceID")), offset("resourceID")});
+    } else if (m_current.name == QLatin1String("item")) {
+        const QString tab = m_open.last().attributes.value(QStringLiteral("name"));
+        const QStringList rows = m_rowsOfTabs.value(tab);
+        const QString row = attribute("name");
+        if (m_current.parent == QLatin1String("tab") && !rows.isEmpty() && !row.isNull() &&
+            !rows.contains(row))
+            add(offset("name"), QStringLiteral("The tab %1 has no row %2, which shows the unknown "
+                                               "text. It has: %3.")
+                                    .arg(quoted(tab), quoted(row), rows.join(QLatin1String(", "))));
+    } else if (m_current.name == QLatin1String("common")) {
+        if (!m_wordings.isEmpty())
+            add(m_current.offset,
+                QStringLiteral("Its wording replaces all earlier ones, for every device."));
+    } else if (m_current.name == QLatin1String("simmsgprompt")) {
+        m_hasCommonWording |= m_current.parent == QLatin1String("common");
+    }
+}
+
+/// The first text that contains another one, or -1.
+int Check::indexOf(const QString &part) const
+{
+    for (int index = 0; index < m_captions.size(); ++index) {
+        if (m_captions.at(index).text.contains(part, Qt::CaseInsensitive))
+            return index;
+    }
+    return -1;
+}
+
+/// What only the whole document shows. The window finds tabs by their captions.
+void Check::checkDocument()
+{
+    if (m_captions.isEmpty())
+        add(m_root, QStringLiteral("No tab is shown."));
+    if (!m_hasCommonWording)
+        add(m_root, QStringLiteral("Without a <simmsgprompt> in <common>, the SIM tab has no title "
+                                   "where no <customize> holds."));
+    for (int index = 0; index < m_captions.size(); ++index) {
+        const Text &own = m_captions.at(index);
+        const int found = indexOf(own.text);
+        if (!own.text.isEmpty() && found != index)
+            add(own.offset, QStringLiteral("The tab stays blank: its caption, %1, is part of the "
+                                           "earlier one %2.")
+                                .arg(quoted(own.text), quoted(m_captions.at(found).text)));
+    }
+    const int simTab = indexOf(QStringLiteral("sim"));
+    for (const Text &wording : m_wordings) {
+        // The first tab is filled before it gets the wording as its title.
+        if (simTab > 0 && wording.text != QLatin1String("SIM/USIM") &&
+            indexOf(wording.text) != simTab)
+            add(wording.offset,
+                QStringLiteral("With this title the SIM tab stays blank: its caption, %1, must be "
+                               "the first that contains it.")
+                    .arg(quoted(m_captions.at(simTab).text)));
+    }
+}
+
+/// Nothing is loaded but what is handed over: no file, and nothing from the network.
+xmlParserInputPtr loadNothing(const char *, const char *, xmlParserCtxtPtr)
+{
+    return nullptr;
+}
+
+bool readFile(const QString &fileName, QByteArray *content, QString *error)
+{
+    QFile file(fileName);
+    if (file.open(QIODevice::ReadOnly)) {
+        *content = file.read(LargestFile + 1);
+        if (file.error() == QFileDevice::NoError && content->size() <= LargestFile)
+            return true;
+    }
+    *error = QStringLiteral("cannot read %1: %2")
+                 .arg(fileName, content->size() > LargestFile
+                                    ? QStringLiteral("larger than %1 bytes").arg(LargestFile)
+                                    : file.errorString());
+    return false;
+}
+
+} // namespace
+
+bool ConfigCheck::run(const QString &fileName, const QString &schemaFile, QStringList *findings,
+                      QString *error)
+{
+    QByteArray document;
+    QByteArray schemaText;
+    if (!readFile(fileName, &document, error) || !readFile(schemaFile, &schemaText, error))
+        return false;
+    if (document.isEmpty()) { // which the parser does not take
+        findings->append(QStringLiteral("1:1: The file is empty."));
+        return true;
+    }
+    xmlSetExternalEntityLoader(loadNothing);
+    const Owner<xmlSchemaParserCtxt> reader(
+        xmlSchemaNewMemParserCtxt(schemaText.constData(), schemaText.size()),
+        xmlSchemaFreeParserCtxt);
+    const Owner<xmlSchema> schema(xmlSchemaParse(reader.get()), xmlSchemaFree);
+    if (!schema) {
+        *error = QStringLiteral("the schema %1 is broken").arg(schemaFile);
+        return false;
+    }
+    Check check(document, ConfigSchema::rowsOfTabs(schemaText));
+    check.run(schema.get());
+    *findings = check.findings();
+    return true;
+}

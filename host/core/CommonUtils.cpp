@@ -129,5 +129,6 @@ void CommonUtils::GetApplicationStringHeightAndWidth(const QString &text, int &h
 {
     const QFontMetrics metrics(QApplication::font());
     height = metrics.horizontalAdvance(text);
-    width = metrics.height();
+    // Letters that the font lacks come from one that may be higher.
+    width = metrics.size(Qt::TextSingleLine, text).height();
 }

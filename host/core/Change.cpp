@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QLibraryInfo>
 #include <QTranslator>
 
 #include <memory>
@@ -30,15 +29,6 @@ const QTranslator &english()
     return translator;
 }
 
-QString toolkitTranslations()
-{
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    return QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#else
-    return QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#endif
-}
-
 } // namespace
 
 QString Change::tr(const QString &key, const QString &context)
@@ -59,7 +49,8 @@ bool HostCore::setLanguage(const QString &folder, const QString &language)
     if (!loaded->host.load(QStringLiteral("%1/host_%2.qm").arg(folder, language)))
         return false;
     QCoreApplication::installTranslator(&loaded->host);
-    if (loaded->toolkit.load(QStringLiteral("qtbase_%1").arg(language), toolkitTranslations()))
+    if (loaded->toolkit.load(QStringLiteral("qtbase_%1").arg(language),
+                             QStringLiteral(TOOLKIT_TRANSLATIONS)))
         QCoreApplication::installTranslator(&loaded->toolkit);
     s_language = std::move(loaded);
     return true;

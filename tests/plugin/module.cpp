@@ -90,13 +90,9 @@ void ModuleTest::exportedSymbols()
     QStringList symbols = QString::fromLatin1(nm.readAllStandardOutput())
                               .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     symbols.sort();
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-    const QString metadata = QLatin1String("qt_plugin_query_metadata");
-#else
-    const QString metadata = QLatin1String("qt_plugin_query_metadata_v2");
-#endif
-    QCOMPARE(symbols, QStringList({QLatin1String("qt_plugin_instance"), metadata,
-                                   QLatin1String("qt_plugin_query_verification_data")}));
+    symbols.replaceInStrings(QLatin1String("metadata_v2"), QLatin1String("metadata")); // Qt 6
+    QCOMPARE(symbols, list("qt_plugin_instance|qt_plugin_query_metadata|"
+                           "qt_plugin_query_verification_data"));
 }
 
 void ModuleTest::verificationData()

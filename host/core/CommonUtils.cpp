@@ -15,10 +15,12 @@
 #include <QScreen>
 #include <QSettings>
 
+#include <memory>
+
 namespace {
 
 QString s_pluginLibraryPath;
-QString s_settingsFile;
+std::unique_ptr<QSettings> s_settings;
 
 /// A message box that can always be closed, and where closing it presses no button.
 class MessageBox : public QMessageBox
@@ -54,7 +56,8 @@ void HostCore::setPluginLibraryPath(const QString &path)
 
 void HostCore::setSettingsFile(const QString &fileName)
 {
-    s_settingsFile = fileName;
+    s_settings =
+        fileName.isNull() ? nullptr : std::make_unique<QSettings>(fileName, QSettings::IniFormat);
 }
 
 QString CommonUtils::GetPluginLibraryPath()
@@ -64,11 +67,12 @@ QString CommonUtils::GetPluginLibraryPath()
 
 QString CommonUtils::GetSettings(const QString &group, const QString &key)
 {
-    if (s_settingsFile.isNull())
+    if (!s_settings)
         return QString();
-    const QSettings settings(s_settingsFile, QSettings::IniFormat);
     // A text with commas is read as a list.
-    return settings.value(group + QLatin1Char('/') + key).toStringList().join(QLatin1String(", "));
+    return s_settings->value(group + QLatin1Char('/') + key)
+        .toStringList()
+        .join(QLatin1String(", "));
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString caption, QString text,

@@ -6,22 +6,29 @@
 #ifndef DIAGNOSTICSLOG_H
 #define DIAGNOSTICSLOG_H
 
-#include <QTime>
 #include <QtDebug>
 
-/// The current time as "hh:mm:ss:zzz". Written digit by digit: the toolkit's format-string parser
-/// would cost more than all the rest of a log line.
+#include <time.h>
+
+/// The current local time as "hh:mm:ss:zzz", written digit by digit. The toolkit's would cost more
+/// than all the rest of a log line: its current time looks each time whether the zone's file has
+/// changed, and its text goes through a format-string parser.
 class LogTime
 {
 public:
     LogTime()
     {
-        const QTime now = QTime::currentTime();
-        putTwoDigits(0, now.hour());
-        putTwoDigits(3, now.minute());
-        putTwoDigits(6, now.second());
-        m_text[9] = static_cast<char>('0' + now.msec() / 100);
-        putTwoDigits(10, now.msec() % 100);
+        const int nanosecondsPerMillisecond = 1000000;
+        timespec now;
+        clock_gettime(CLOCK_REALTIME, &now);
+        tm local;
+        localtime_r(&now.tv_sec, &local);
+        const int milliseconds = static_cast<int>(now.tv_nsec / nanosecondsPerMillisecond);
+        putTwoDigits(0, local.tm_hour);
+        putTwoDigits(3, local.tm_min);
+        putTwoDigits(6, local.tm_sec);
+        m_text[9] = static_cast<char>('0' + milliseconds / 100);
+        putTwoDigits(10, milliseconds % 100);
         m_text[2] = m_text[5] = m_text[8] = ':';
         m_text[12] = '\0';
     }

@@ -29,6 +29,7 @@ public:
     using QMessageBox::QMessageBox;
 
 protected:
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the one that presses a button
     void closeEvent(QCloseEvent *event) override { QDialog::closeEvent(event); }
 
     void keyPressEvent(QKeyEvent *event) override

@@ -58,7 +58,7 @@ public:
         if (!out)
             note(VELT_ERROR_BAD_ARGUMENT);
         const VELT_ERROR result = give(rest...);
-        if (result == VELT_SUCCESS)
+        if (out && result == VELT_SUCCESS)
             *out = value;
         return result;
     }

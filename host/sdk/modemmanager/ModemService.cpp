@@ -139,10 +139,9 @@ bool detach()
         return true;
     state.worker->quit();
     const bool ended = state.worker->wait(patience);
-    if (ended)
-        state.worker.reset();
-    else
-        state.worker.release(); // it must not be destroyed while it runs
+    if (!ended)
+        static_cast<void>(state.worker.release()); // it must not be destroyed while it runs
+    state.worker.reset();
     Lock lock(state.mutex);
     ++state.generation;
     state.index = -1;

@@ -119,44 +119,54 @@ void note(QtMsgType, const QMessageLogContext &, const QString &message)
     callsThen.push_back(ModemControl::recordedCalls().size());
 }
 
-/// All formats of log lines in the plug-in's sources.
-QStringList readFormats()
+/// The format of a log line, all conversions turned to "%s", and what its lines look like.
+struct Format
+{
+    QByteArray text;
+    QRegularExpression lines;
+};
+
+/// Those of the plug-in's sources.
+QList<Format> readFormats()
 {
     const QRegularExpression call(QStringLiteral("qDebug\\(((?:\\s*\"[^\"]*\")+)"));
     const QRegularExpression seam(QStringLiteral("\"\\s*\""));
+    const QRegularExpression conversion(QStringLiteral("%(s|d|u|li)"));
     const QDir folder(QStringLiteral(PLUGIN_SOURCE_DIR));
-    QStringList formats;
+    QList<Format> formats;
     for (const QString &name : folder.entryList({QStringLiteral("*.cpp")})) {
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly))
             qFatal("cannot read %s", qPrintable(name));
         auto found = call.globalMatch(QString::fromLatin1(file.readAll()));
-        while (found.hasNext())
-            formats.append(found.next().captured(1).remove(seam).remove(QLatin1Char('"')));
+        while (found.hasNext()) {
+            const QString text = found.next()
+                                     .captured(1)
+                                     .remove(seam)
+                                     .remove(QLatin1Char('"'))
+                                     .replace(conversion, QStringLiteral("%s"));
+            QStringList literals = text.split(QStringLiteral("%s"));
+            for (QString &literal : literals)
+                literal = QRegularExpression::escape(literal);
+            formats.append({text.toLatin1(), QRegularExpression(QRegularExpression::anchoredPattern(
+                                                 literals.join(QStringLiteral("(.*?)"))))});
+        }
     }
     return formats;
 }
 
-/// The line as its format, all conversions turned to "%s", and the texts of its arguments.
+/// The line as its format and the texts of its arguments.
 void split(const QString &line, QByteArray *format, QList<QByteArray> *arguments)
 {
-    static const QStringList formats = readFormats();
-    static const QRegularExpression conversion(QStringLiteral("%(s|d|u|li)"));
-    for (const QString &known : formats) {
-        const QString uniform = QString(known).replace(conversion, QStringLiteral("%s"));
+    static const QList<Format> formats = readFormats();
+    for (const Format &known : formats) {
         // The most literal of those that fit.
-        if (uniform.size() <= format->size())
-            continue;
-        QStringList literals = uniform.split(QStringLiteral("%s"));
-        for (QString &literal : literals)
-            literal = QRegularExpression::escape(literal);
-        const QRegularExpressionMatch match =
-            QRegularExpression(
-                QRegularExpression::anchoredPattern(literals.join(QStringLiteral("(.*?)"))))
-                .match(line);
+        const QRegularExpressionMatch match = known.text.size() > format->size()
+                                                  ? known.lines.match(line)
+                                                  : QRegularExpressionMatch();
         if (!match.hasMatch())
             continue;
-        *format = uniform.toLatin1();
+        *format = known.text;
         arguments->clear();
         for (const QString &argument : match.capturedTexts().mid(1))
             arguments->append(argument.toLatin1());

@@ -50,9 +50,10 @@ QString attribute(const QCoreXmlStreamReader &reader, const char *name)
 template <typename Record>
 void readCaption(const QCoreXmlStreamReader &reader, Record &record)
 {
-    record.name = attribute(reader, NameAttribute);
-    record.resourceID = attribute(reader, ResourceAttribute);
-    record.show = attribute(reader, ShowAttribute) == QLatin1String("false") ? 0 : 1;
+    const QXmlStreamAttributes attributes = reader.attributes();
+    record.name = attributes.value(QLatin1String(NameAttribute)).toString();
+    record.resourceID = attributes.value(QLatin1String(ResourceAttribute)).toString();
+    record.show = attributes.value(QLatin1String(ShowAttribute)) == QLatin1String("false") ? 0 : 1;
 }
 
 } // namespace

@@ -73,6 +73,7 @@ WindowByHand::WindowByHand(QWidget *parent, const WindowContent &content,
             value->setTextFormat(Qt::PlainText);
             value->setTextInteractionFlags(Qt::TextSelectableByMouse);
             value->setWordWrap(true);
+            caption->setBuddy(value);
             form->addRow(caption, value);
             m_values.last().append(value);
         }
@@ -108,6 +109,8 @@ WindowByHand::WindowByHand(QWidget *parent, const WindowContent &content,
     bottom->addWidget(cancel);
     bottom->setContentsMargins(0, 0, 15, 0);
     bottom->setAlignment(Qt::AlignRight);
+    QWidget::setTabOrder(save, refresh);
+    QWidget::setTabOrder(refresh, cancel);
     cancel->setFocus(Qt::OtherFocusReason);
 
     m_dialog->setWindowTitle(content.title);

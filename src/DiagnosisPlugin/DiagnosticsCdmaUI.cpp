@@ -285,6 +285,10 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
     m_phboxLayoutCdmaBottom->addSpacing(buttonSpacing);
     m_phboxLayoutCdmaBottom->addWidget(m_ppushButtonCdmaCancel);
     m_phboxLayoutCdmaBottom->setAlignment(Qt::AlignRight);
+    // With the Tab key as they stand, not as they were made.
+    if (m_ppushButtonCdmaSave)
+        QWidget::setTabOrder(m_ppushButtonCdmaSave, m_ppushButtonCdmaRefresh);
+    QWidget::setTabOrder(m_ppushButtonCdmaRefresh, m_ppushButtonCdmaCancel);
     return Success;
 }
 

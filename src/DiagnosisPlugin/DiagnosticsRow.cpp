@@ -29,6 +29,8 @@ void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowNam
                             QStyle::visualAlignment(label->layoutDirection(), label->alignment()));
     caption->setObjectName(captionName(rowName));
     value->setObjectName(valueName(rowName));
+    // Tells assistive technology what the value is of.
+    caption->setBuddy(value);
     // A text from the air must not be read as markup.
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);

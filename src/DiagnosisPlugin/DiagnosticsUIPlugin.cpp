@@ -426,6 +426,10 @@ int DiagnosticsUIPlugin::createLayout()
     m_phboxLayoutBottom->addWidget(m_ppushButtonCancel);
     m_phboxLayoutBottom->setContentsMargins(0, 0, 15, 0);
     m_phboxLayoutBottom->setAlignment(Qt::AlignRight);
+    // With the Tab key as they stand, not as they were made.
+    if (m_ppushButtonSave)
+        QWidget::setTabOrder(m_ppushButtonSave, m_ppushButtonRefresh);
+    QWidget::setTabOrder(m_ppushButtonRefresh, m_ppushButtonCancel);
     m_ppushButtonCancel->setFocus(Qt::OtherFocusReason);
     return Success;
 }

@@ -18,6 +18,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QIcon>
 #include <QLocale>
 #include <QPixmap>
 
@@ -190,6 +191,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
     QApplication::setApplicationVersion(QStringLiteral(HOST_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("diagnosis-host"));
+    QApplication::setWindowIcon(QIcon(hostFolder(HOST_ICON)));
 
     Options options;
     QString error;

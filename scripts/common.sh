@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 # SPDX-License-Identifier: MIT
 
-# What ./run and ./test share. To be sourced from the top folder.
+# What the commands share. To be sourced from the top folder.
 
 # install_packages PACKAGE...: installs what is missing, on Debian and its relatives.
 install_packages() {
@@ -35,6 +35,11 @@ build_packages=(
     qtbase5-dev
     qttools5-dev
     qttools5-dev-tools
+)
+
+packaging_packages=(
+    dpkg-dev
+    file
 )
 
 # build PRESET [TARGET...]: configures once, then builds what has changed.

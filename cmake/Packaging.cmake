@@ -1,0 +1,53 @@
+# SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+# SPDX-License-Identifier: MIT
+
+# The Debian package ("package" target or cpack): all that is installed, below /usr.
+
+# install_compressed(folder name): a file of the build tree, without a time inside, so that packages
+# can be compared.
+function(install_compressed folder name)
+    execute_process(COMMAND gzip -9nfk ${CMAKE_BINARY_DIR}/${folder}/${name}
+        COMMAND_ERROR_IS_FATAL ANY)
+    install(FILES ${CMAKE_BINARY_DIR}/${folder}/${name}.gz DESTINATION ${folder})
+endfunction()
+
+set(man_pages ${CMAKE_INSTALL_MANDIR}/man1)
+configure_file(host/app/desktop/diagnosis-host.1.in
+    ${CMAKE_BINARY_DIR}/${man_pages}/diagnosis-host.1 @ONLY)
+install_compressed(${man_pages} diagnosis-host.1)
+
+set(CPACK_PACKAGE_CONTACT "The DiagnosisPlugin authors <authors@diagnosisplugin.invalid>")
+set(documents ${CMAKE_INSTALL_DATADIR}/doc/diagnosis-host)
+configure_file(CHANGELOG.md ${CMAKE_BINARY_DIR}/${documents}/changelog COPYONLY)
+install_compressed(${documents} changelog)
+string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+file(WRITE ${CMAKE_BINARY_DIR}/${documents}/changelog.Debian
+"diagnosis-host (${PROJECT_VERSION}-1) unstable; urgency=medium
+
+  * What is new is in changelog.gz.
+
+ -- ${CPACK_PACKAGE_CONTACT}  ${date}
+")
+install_compressed(${documents} changelog.Debian)
+install(FILES LICENSE DESTINATION ${documents} RENAME copyright)
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME diagnosis-host)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "diagnostics window for mobile-broadband modems")
+set(CPACK_PACKAGE_DESCRIPTION
+"Shows the identity of a USB mobile-broadband modem, the state of its network
+and its SIM, and writes them to a text file. The window is a plug-in of
+connection managers; this package brings it with a reference host.
+.
+The modem is one that ModemManager knows or one of several simulated ones.")
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SECTION net)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# The windows' fixed sizes are made for this font. The toolkit's own packages recommend its texts in
+# other languages and what reads the icon.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-dejavu-core)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS fonts-wqy-microhei) # for Chinese
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS modemmanager)
+include(CPack)

@@ -27,10 +27,12 @@ namespace ModemControl {
 // ---- The attached modem ----
 
 /// Makes the modem described by \a iniFile the one attached modem; it is plugged in, without any
-/// event. On a failure the attached modem stays and *\a error, which must not be null, says why.
+/// event. The results that its file sets take the place of all that were set. On a failure nothing
+/// changes and *\a error, which must not be null, says why.
 MODEM_CONTROL_API bool attach(const std::string &iniFile, std::string *error);
 
-/// Takes the modem away without any event: every function then gives VELT_ERROR_NO_DEVICE.
+/// Takes the modem and all set results away, without any event: every function but the registration
+/// of callbacks then gives VELT_ERROR_NO_DEVICE.
 MODEM_CONTROL_API void detach();
 
 /// Plugs the attached modem in again and raises its arrival and the end of its initialisation.
@@ -60,6 +62,10 @@ enum Outputs
 
 /// Lets a function, or every function for "*", return \a code. With the code 0 it answers as usual,
 /// but with KeepOutputs it fills and changes nothing: a function that claims success.
+///
+/// What is set for a function's own name goes before "*". Without a plugged-in modem a function
+/// gives VELT_ERROR_NO_DEVICE, whatever is set for it; only the four functions that register and
+/// unregister callbacks, which need no modem, give what is set even then.
 MODEM_CONTROL_API void setResult(const std::string &function, VELT_ERROR code,
                                  Outputs outputs = KeepOutputs);
 

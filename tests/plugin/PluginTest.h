@@ -33,26 +33,16 @@ protected:
 
     QString path(const char *file) const;
     QTabWidget *tabs() const;
-    /// A button of the shown window by its object name, "DiagnosticsUIPlugin_pushButton" left out.
+    /// A visible button by its object name without "DiagnosticsUIPlugin_pushButton" or, in the
+    /// window of CDMA devices, "DiagnosticsUIPlugin_pushButtonCdma".
     QPushButton *button(const char *name) const;
-    /// A line of the plug-in's log, of DiagnosticsUIPlugin if no source is given.
-    static QString line(const char *message, const char *source = "DiagnosticsUIPlugin");
-
-    /// Plays the commands of a section, "[name]", of a file beside the test, and compares what
-    /// follows from them with the indented lines behind them: the SDK calls, or the rows of the
-    /// window.
-    ///     configuration XML | language NAME | modem NAME | set KEY=VALUE;... | fail FUNCTION
-    ///     open | visit INDEX | refresh | unplug | plug | rows
-    void play(const QString &file, const QString &section);
-
-    /// Compares with the lines of a file beside the test; a difference leaves "<file>.actual" in
-    /// the current folder.
+    /// Compares lines; a difference leaves those there are in "<name>.actual" in the current
+    /// folder.
+    static void compare(const QString &name, const QStringList &actual,
+                        const QStringList &expected);
+    /// The same with the lines of a file beside the test.
     static void compareWithGolden(const QString &file, const QStringList &lines);
 
-private:
-    QStringList perform(const QString &command, const QString &argument);
-
-protected:
     TestSupport::LogCapture *m_log = nullptr;
     TestSupport::ConfiguredHost *m_host = nullptr;
     QWidget *m_parent = nullptr;

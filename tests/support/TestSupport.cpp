@@ -36,20 +36,20 @@ bool isTime(const QString &text)
     QString pattern = text;
     for (QChar &character : pattern) {
         if (character.isDigit())
-            character = QLatin1Char('9');
+            character = '9';
     }
-    return pattern == QLatin1String("99:99:99:999");
+    return pattern == "99:99:99:999";
 }
 
 void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     // The offscreen platform says so of itself, for windows with size constraints.
-    if (message == QLatin1String("This plugin does not support propagateSizeHints()"))
+    if (message == "This plugin does not support propagateSizeHints()")
         return;
     QString line = message;
     for (int at = 0; at + 12 <= line.size(); ++at) {
         if (isTime(line.mid(at, 12))) {
-            line.replace(at, 12, QLatin1String("TIME"));
+            line.replace(at, 12, "TIME");
             break;
         }
     }
@@ -65,39 +65,47 @@ QStringList take(QStringList &lines)
     return taken;
 }
 
-QByteArray contentOf(const char *fileName)
-{
-    QFile file(QString::fromUtf8(fileName));
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", fileName);
-    return file.readAll();
-}
-
 } // namespace
 
 namespace TestSupport {
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("cannot read %s", qPrintable(path));
+    return file.readAll();
+}
+
+QString unescape(QString text)
+{
+    text.replace("\\n", "\n");
+    for (int at = text.indexOf('\\'); at >= 0; at = text.indexOf('\\', at + 1)) {
+        const int digits = text.midRef(at + 1, 1) == "x" ? 2 : 4;
+        text.replace(at, 2 + digits, QChar(text.mid(at + 2, digits).toUShort(nullptr, 16)));
+    }
+    const QRegularExpression run("(.)\\{(\\d+)\\}");
+    for (auto found = run.match(text); found.hasMatch(); found = run.match(text))
+        text.replace(found.capturedStart(), found.capturedLength(),
+                     found.captured(1).repeated(found.captured(2).toInt()));
+    return text;
+}
 
 void addRows(const char *fileName, const char *section)
 {
     QTest::addColumn<QStringList>("fields");
     bool inSection = false;
-    for (QByteArray line : contentOf(fileName).split('\n')) {
-        if (line.startsWith('[')) {
+    for (const QByteArray &line : contentOf(fileName).split('\n')) {
+        if (line.startsWith('['))
             inSection = line == '[' + QByteArray(section) + ']';
-        } else if (inSection && !line.isEmpty() && !line.startsWith('#')) {
-            const QByteArray name = line;
-            line.replace("\\n", "\n");
-            for (int at = line.indexOf("\\x"); at >= 0; at = line.indexOf("\\x", at + 1))
-                line.replace(at, 4, QByteArray::fromHex(line.mid(at + 2, 2)));
-            QTest::newRow(name.constData())
-                << QString::fromLatin1(line).split(QLatin1String(" | "));
-        }
+        else if (inSection && !line.isEmpty() && !line.startsWith('#'))
+            QTest::newRow(line.constData()) << unescape(QString::fromLatin1(line)).split(" | ");
     }
 }
 
 QStringList list(const char *texts)
 {
-    return QString::fromLatin1(texts).split(QLatin1Char('|'));
+    return QString::fromLatin1(texts).split('|');
 }
 
 void setValues(const QString &changes)
@@ -183,8 +191,7 @@ QWidget *diagnosticsWindow()
 {
     const auto windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        const auto *tabs =
-            window->findChild<QWidget *>(QLatin1String("DiagnosticsUIPlugin_tabWidgetDiag"));
+        const auto *tabs = window->findChild<QWidget *>("DiagnosticsUIPlugin_tabWidgetDiag");
         if (window->isVisible() && tabs && tabs->window() == window)
             return window;
     }
@@ -200,43 +207,55 @@ QStringList flatten(QWidget *window)
             return qobject_cast<QLabel *>(form->itemAt(row, role)->widget())->text();
         };
         for (int row = 0; form && row < form->rowCount(); ++row)
-            rows.append(text(row, QFormLayout::LabelRole) + QLatin1String(" = ") +
+            rows.append(text(row, QFormLayout::LabelRole) + " = " +
                         text(row, QFormLayout::FieldRole));
     };
-    const auto *frame =
-        window->findChild<QFrame *>(QLatin1String("DiagnosticsUIPlugin_frameCdmaDiag"));
+    const auto *frame = window->findChild<QFrame *>("DiagnosticsUIPlugin_frameCdmaDiag");
     if (frame)
         addForm(frame);
-    const auto *tabs =
-        window->findChild<QTabWidget *>(QLatin1String("DiagnosticsUIPlugin_tabWidgetDiag"));
+    const auto *tabs = window->findChild<QTabWidget *>("DiagnosticsUIPlugin_tabWidgetDiag");
     for (int index = 0; tabs && index < tabs->count(); ++index) {
-        rows.append(QLatin1Char('[') + tabs->tabText(index) + QLatin1Char(']'));
+        rows.append('[' + tabs->tabText(index) + ']');
         addForm(tabs->widget(index));
     }
     return rows;
 }
 
-void answer(QFileDialog *dialog, const QString &path)
+QStringList clipped(const QWidget *window)
 {
-    dialog->findChild<QLineEdit *>()->setText(path);
-    static_cast<QDialog *>(dialog)->done(QDialog::Accepted); // past the question to overwrite
+    QStringList names;
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        if (!widget->isVisible() ||
+            !(qobject_cast<const QLabel *>(widget) || qobject_cast<const QPushButton *>(widget)))
+            continue;
+        const QSize needed = widget->hasHeightForWidth()
+                                 ? QSize(widget->width(), widget->heightForWidth(widget->width()))
+                                 : widget->sizeHint();
+        if (widget->size().expandedTo(needed) != widget->size() ||
+            !widget->parentWidget()->rect().contains(widget->geometry()))
+            names.append(widget->objectName());
+    }
+    return names;
 }
 
-QStringList save(QPushButton *button, const QString &path)
+QStringList save(QPushButton *button, const QString &path,
+                 const std::function<bool(const char *)> &meanwhile)
 {
     QStringList boxes;
     QTimer answers; // runs in the event loops that the dialogs block in
-    QObject::connect(&answers, &QTimer::timeout, [&boxes, &path] {
-        QWidget *const dialog = QApplication::activeModalWidget();
+    QObject::connect(&answers, &QTimer::timeout, [&] {
+        const QPointer<QDialog> dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (meanwhile && dialog &&
+            meanwhile(qobject_cast<QFileDialog *>(dialog) ? "file dialog" : "message box"))
+            return;
         if (auto *box = qobject_cast<QMessageBox *>(dialog)) {
-            boxes.append(box->windowTitle() + QLatin1String(": ") + box->text());
+            boxes.append(box->windowTitle() + ": " + box->text());
             box->buttons().at(0)->click();
-        } else if (auto *question = qobject_cast<QFileDialog *>(dialog)) {
-            if (path.isNull()) {
-                question->reject();
-                return;
-            }
-            answer(question, path);
+        } else if (dialog && path.isNull()) {
+            dialog->reject();
+        } else if (dialog) {
+            dialog->findChild<QLineEdit *>()->setText(path);
+            dialog->done(QDialog::Accepted); // past the question to overwrite
         }
     });
     answers.start(10);

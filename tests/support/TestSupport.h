@@ -8,7 +8,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-class QFileDialog;
+#include <functional>
+
 class QPushButton;
 class QWidget;
 
@@ -17,8 +18,14 @@ class QWidget;
 namespace TestSupport {
 
 /// Adds a row of test data for each line of a section, "[name]", of a file: its fields, which " | "
-/// separates, in the one column "fields". Fields may have the escapes \n and \xNN (Latin-1).
+/// separates, in the one column "fields". Fields may have escapes.
 void addRows(const char *fileName, const char *section);
+
+/// The content of a file, which must be readable.
+QByteArray contentOf(const QString &path);
+
+/// A text with its escapes replaced: \n, \xNN (Latin-1), \uNNNN (UTF-16), and c{N} for N times c.
+QString unescape(QString text);
 
 /// The texts between '|'.
 QStringList list(const char *texts);
@@ -73,12 +80,14 @@ QWidget *diagnosticsWindow();
 /// value" for each row; without visiting any tab.
 QStringList flatten(QWidget *window);
 
-/// Answers an open file dialog with a path.
-void answer(QFileDialog *dialog, const QString &path);
+/// What is squeezed or cut off of the visible labels and buttons of a window.
+QStringList clipped(const QWidget *window);
 
 /// Presses a Save button, answers its file dialog with a path, or cancels it for a null one, and
-/// accepts all message boxes, of which it gives "caption: text".
-QStringList save(QPushButton *button, const QString &path);
+/// accepts all message boxes, of which it gives "caption: text". Before each answer it asks
+/// \a meanwhile, with "file dialog" or "message box", whether to wait a little longer.
+QStringList save(QPushButton *button, const QString &path,
+                 const std::function<bool(const char *)> &meanwhile = nullptr);
 
 /// Runs the event loop until all posted events, deferred deletions included, are delivered.
 void settle();

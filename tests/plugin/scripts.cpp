@@ -1,0 +1,562 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+// The plug-in in the hands of a host and a user: plays the sections of the *.actions files.
+//
+// A line is a command, and the indented lines behind it are what follows from it; where that is
+// short, it may follow in the same line, behind "=>" and separated by " | ". Last come the SDK
+// calls, unless the script is "quiet". In arguments and outcomes \n is the end of a line, \xE9 a
+// byte of Latin-1, \uD800 a UTF-16 unit and x{24} what 24 times x would be.
+//
+// The host and the modem
+//   configuration XML | write FILE TEXT | remove FILE      in the plug-in's folder
+//   language NAME | host STATE                             see setHost()
+//   modem NAME | set KEY=VALUE;... | fail FUNCTION[=CODE [filled]] | unplug | plug | event CODE
+//   Init | ShowWindow | Notify CODE | OnDestroy | ReleaseData | drop-rows
+//   delete-parent | delete-plug-in
+//   open                                                   Init and ShowWindow, which succeed
+// The user
+//   visit INDEX | press BUTTON | close | Esc
+//   save [FILE] [while DIALOG: COMMAND]                    no file cancels
+//   swap                                                   hides the shown window, shows the hidden
+// What there is to see
+//   windows | rows | buttons | clipped | property OBJECT NAME | question
+//   file NAME | log [PART] | references | cost ACTION      of docs/sdk-calls.md
+//   get GETTER[, KEY=VALUE;...] | value TAB, ROW | load FILE | xml CONTENT
+
+#include "DiagnosticsConfigParse.h"
+#include "DiagnosticsUILogic.h"
+#include "DiagnosticsUIPlugin.h"
+#include "PluginTest.h"
+
+#include "HostCore.h"
+#include "ModemControl.h"
+#include "interfaces/IDialupUIService.h"
+#include "interfaces/INetConnectSetting.h"
+#include "interfaces/IStatusBarUI.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTranslator>
+#include <QtTest>
+
+#include <algorithm>
+#include <functional>
+#include <map>
+
+using namespace TestSupport;
+
+namespace {
+
+typedef DiagnosticsUILogic Logic;
+typedef DiagnosticsConfigParse Store;
+
+/// The getters of the query layer by their names.
+const std::map<QString, std::function<QString(Logic *)>> getters = {
+// clang-format off
+#define GETTER(name) {#name, &Logic::name}
+    GETTER(GetSoftwareVersion), GETTER(GetFirmwareVersion), GETTER(GetHardwareVersion),
+    GETTER(GetIMEI), GETTER(GetSerialNumber), GETTER(GetApplicationPort), GETTER(GetDeviceName),
+    GETTER(GetDeviceType), GETTER(GetEsn), GETTER(GetMeid), GETTER(GetPrlVersion),
+    GETTER(GetVoltage), GETTER(GetMulticarrier), GETTER(GetNetworkName), GETTER(GetNetworkType),
+    GETTER(getNetwork), GETTER(GetSelectionMode), GETTER(GetCsRegister), GETTER(GetPsRegister),
+    GETTER(GetPsAttachment), GETTER(GetRSSI), GETTER(GetSignalStrength), GETTER(GetRSQUAL),
+    GETTER(GetRSCP), GETTER(GetECIO), GETTER(GetECNO), GETTER(GetCellID), GETTER(GetLACCode),
+    GETTER(GetSimStatus), GETTER(GetPinStatus), GETTER(GetIMSINumber), GETTER(GetICCID),
+    GETTER(GetOwnNumber), GETTER(GetSMSC), GETTER(GetContactCountinSim),
+    GETTER(GetContactCountinDevice), GETTER(GetIPAddress), GETTER(GetDNSServer), GETTER(GetAPN),
+#undef GETTER
+    // clang-format on
+    {"IsPesn", [](Logic *logic) { return QString::number(logic->IsPesn()); }},
+    {"GetMessageCount(1)", [](Logic *logic) { return logic->GetMessageCount(1); }},
+    {"GetMessageCount(2)", [](Logic *logic) { return logic->GetMessageCount(2); }},
+};
+
+/// The plug-ins that ours asks, in one object.
+class HostPlugins : public QObject,
+                    public IStatusBarUI,
+                    public IDialupUIService,
+                    public INetConnectSetting
+{
+    Q_OBJECT
+    Q_INTERFACES(IStatusBarUI IDialupUIService INetConnectSetting)
+
+public:
+    int result = 0;
+    QMap<QString, QString> values;
+
+    int IGetServiceName(QString &name) override { return give("name", name); }
+    int IGetNetworkType(QString &type) override { return give("type", type); }
+    int IGetProfileName(QString &name) override { return give("profile", name); }
+    int IGetProfileSettings(QString profile, NetProfileSettings *settings) override
+    {
+        settings->dialNumber = "*99#";
+        settings->apn = "apn of " + profile;
+        settings->apnMode = "static";
+        return result;
+    }
+
+private:
+    int give(const char *key, QString &text) const
+    {
+        text = values[key];
+        return result;
+    }
+};
+
+/// Notes who asks the toolkit for a text: a resource key handed over as a literal would go there,
+/// with the class as its context, and not to the host.
+class TranslationRecorder : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *, const char *, int) const override
+    {
+        contexts << context;
+        return QString();
+    }
+    bool isEmpty() const override { return false; }
+    mutable QStringList contexts;
+};
+
+template <typename Object>
+void clear(Object *&object)
+{
+    delete object;
+    object = nullptr;
+}
+
+/// What unescape() takes for the text.
+QString escape(const QString &text)
+{
+    QString escaped;
+    for (int at = 0, end = 0; at < text.size(); at = end) {
+        while (end < text.size() && text[end] == text[at])
+            ++end;
+        const QChar unit = text[at];
+        if (unit == '\n')
+            escaped += QString("\\n").repeated(end - at);
+        else if (unit < ' ' || unit.isSurrogate())
+            escaped += QString("\\u%1").arg(unit.unicode(), 4, 16, QChar('0')).repeated(end - at);
+        else if (end - at < 16)
+            escaped += text.mid(at, end - at);
+        else
+            escaped += QString("%1{%2}").arg(unit).arg(end - at);
+    }
+    return escaped;
+}
+
+} // namespace
+
+class ScriptTest : public PluginTest
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { HostCore::applyLook(*qApp); }
+    void init();
+    void cleanup();
+    void play_data();
+    void play();
+    void large();
+
+private:
+    void say(const QString &text) { m_said << escape(text); }
+    void say(int number) { say(QString::number(number)); }
+    void say(const QStringList &lines)
+    {
+        for (const QString &line : lines)
+            say(line);
+    }
+    void act(const QString &line);
+    void setHost(const QString &state);
+    void fail(const QString &function, const QString &code);
+    void press(const QString &name);
+    void swap();
+    void saveTo(const QString &file, QString meanwhile);
+    void sayWindows();
+    void sayButtons();
+    void sayProperty(const QString &object, const QString &property);
+    void sayQuestion();
+    void sayAnswer(const QString &getter, const QString &values);
+    void sayValue(const QString &tab, const QString &row);
+    void sayStore(unsigned int result);
+    void sayReferences();
+    void sayCost(const QString &action);
+
+    QList<QDialog *> windows() const
+    {
+        return m_parent ? m_parent->findChildren<QDialog *>(QString(), Qt::FindDirectChildrenOnly)
+                        : QList<QDialog *>();
+    }
+    QDialog *window() const
+    {
+        for (QDialog *window : windows()) {
+            if (window->isVisible())
+                return window;
+        }
+        qFatal("no window is shown");
+    }
+    /// Leaves the number of references as it was.
+    template <typename Singleton>
+    static Singleton *get(void (*giveBack)())
+    {
+        Singleton *const singleton = Singleton::GetInstance();
+        giveBack();
+        return singleton;
+    }
+    static Logic *logic() { return get<Logic>(Logic::Destroy); }
+    static Store *store() { return get<Store>(Store::DestroyInstance); }
+
+    HostPlugins *m_plugins = nullptr;
+    std::unique_ptr<HostCore::PluginRegister> m_container;
+    TranslationRecorder m_recorder;
+    QStringList m_said;  ///< what followed from a command
+    QStringList m_calls; ///< of the SDK since the last "cost"
+    bool m_quiet = false;
+};
+
+void ScriptTest::init()
+{
+    setUp();
+    m_host->write("host.ini", "[version]\nversion=2.1\n");
+    HostCore::setSettingsFile(path("host.ini"));
+    m_calls.clear();
+    m_quiet = false;
+    m_recorder.contexts.clear();
+    QCoreApplication::installTranslator(&m_recorder);
+}
+
+void ScriptTest::cleanup()
+{
+    QCoreApplication::removeTranslator(&m_recorder);
+    delete m_plugins;
+    m_plugins = nullptr;
+    tearDown();
+    QCOMPARE(m_recorder.contexts.filter("Diagnostics"), QStringList());
+}
+
+void ScriptTest::play_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    for (const QString &file : QDir(TEST_SOURCE_DIR).entryList({"*.actions"})) {
+        const QString script = contentOf(TEST_SOURCE_DIR "/" + file);
+        for (const QString &section : script.split("\n[").mid(1)) {
+            QStringList lines = section.split(QRegularExpression("\n(#.*)?"), Qt::SkipEmptyParts);
+            const QString name = file.section('.', 0, 0) + ": " + lines.takeFirst().chopped(1);
+            QTest::newRow(qPrintable(name)) << lines;
+        }
+    }
+}
+
+void ScriptTest::play()
+{
+    QFETCH(QStringList, lines);
+    QStringList played;
+    for (const QString &line : lines) {
+        if (line.startsWith(' '))
+            continue;
+        m_said.clear();
+        act(line.section(" => ", 0, 0));
+        ModemControl::waitForEvents(10000);
+        settle();
+        const QStringList calls = takeCalls();
+        m_calls += calls;
+        if (!m_quiet)
+            m_said += calls;
+        played << line.section(" => ", 0, 0);
+        if (line.contains(" => "))
+            played.last() += " => " + m_said.join(" | ");
+        else
+            played += m_said.replaceInStrings(QRegularExpression("^"), "    ");
+    }
+    compare(QTest::currentDataTag(), played, lines);
+}
+
+void ScriptTest::act(const QString &line)
+{
+    const QString a = unescape(line.section(' ', 1));
+    const QString file = m_host->folder() + a;
+    const auto part = [&](const char *separator, int from, int to = -1) {
+        return a.section(separator, from, to);
+    };
+    // clang-format off
+    const std::map<QString, std::function<void()>> commands = {
+        {"configuration", [&] { m_host->write("DiagnosisConfig.xml", a.toUtf8()); }},
+        {"write", [&] { m_host->write(qPrintable(part(" ", 0, 0)), part(" ", 1).toUtf8()); }},
+        {"remove", [&] { QFile::remove(file); }},
+        {"language", [&] { setLanguage(qPrintable(a)); }},
+        {"host", [&] { setHost(a); }},
+        {"modem", [&] { attachModem(qPrintable(a)); }},
+        {"set", [&] { setValues(a); }},
+        {"fail", [&] { fail(part("=", 0, 0), part("=", 1)); }},
+        {"unplug", [] { ModemControl::unplug(); }},
+        {"plug", [] { ModemControl::plug(); }},
+        {"event", [&] { say(Logic::OnDevEvents(a.toInt(), nullptr)); }},
+        {"quiet", [&] { m_quiet = true; }},
+
+        {"Init", [&] { say(m_plugin->Init()); }},
+        {"ShowWindow", [&] { say(show()); }},
+        {"open", [&] { open(); }},
+        {"Notify", [&] { QCOMPARE(m_plugin->Notify(a.toUInt(), 4100, 4100), 0); }},
+        {"OnDestroy", [&] { m_plugin->OnDestroy(); }},
+        {"ReleaseData", [&] { store()->ReleaseData(); }},
+        {"drop-rows", [&] { clear(store()->GetTabInformation()->first().items); }},
+        {"delete-parent", [&] { clear(m_parent); }},
+        {"delete-plug-in", [&] { clear(m_plugin); }},
+
+        {"visit", [&] { tabs()->setCurrentIndex(a.toInt()); }},
+        {"press", [&] { press(a); }},
+        {"close", [&] { window()->close(); }},
+        {"Esc", [&] { QTest::keyClick(window(), Qt::Key_Escape); }},
+        {"swap", [&] { swap(); }},
+        {"save", [&] { saveTo(part("while ", 0, 0).trimmed(), part("while ", 1)); }},
+
+        {"windows", [&] { sayWindows(); }},
+        {"rows", [&] { say(flatten(window())); }},
+        {"buttons", [&] { sayButtons(); }},
+        {"clipped", [&] { say(clipped(window())); }},
+        {"property", [&] { sayProperty(part(" ", 0, -2), part(" ", -1)); }},
+        {"question", [&] { sayQuestion(); }},
+        {"file", [&] { say(('|' + QString(contentOf(file)).replace('\n', "\n|")).split('\n')); }},
+        {"log", [&] { say(m_log->takeLog().filter(a).replaceInStrings(m_host->folder(), "")); }},
+        {"references", [&] { sayReferences(); }},
+        {"cost", [&] { sayCost(a); }},
+        {"get", [&] { sayAnswer(part(", ", 0, 0), part(", ", 1)); }},
+        {"value", [&] { sayValue(part(", ", 0, 0), part(", ", 1)); }},
+        {"load", [&] { sayStore(store()->LoadFile(a)); }},
+        {"xml", [&] { m_host->write("test.xml", a.toLatin1()); act("load test.xml"); }},
+    };
+    // clang-format on
+    const auto command = commands.find(line.section(' ', 0, 0));
+    if (command == commands.end())
+        return say("no such command");
+    command->second();
+}
+
+/// The plug-ins that the host has: "KEY=VALUE;..." for ours, "failing" for the same, "gone" once
+/// they are deleted, "strangers" where others have their names, "without-plug-ins",
+/// "without-container".
+void ScriptTest::setHost(const QString &state)
+{
+    if (!m_plugins)
+        m_plugins = new HostPlugins;
+    m_plugins->result = state == "failing";
+    if (state.contains('='))
+        m_plugins->values.clear();
+    for (const QString &pair : state.split(';')) {
+        if (pair.contains('='))
+            m_plugins->values[pair.section('=', 0, 0)] = pair.mid(pair.indexOf('=') + 1);
+    }
+    m_container = std::make_unique<HostCore::PluginRegister>();
+    QObject *const plugin = state == "strangers" ? this : static_cast<QObject *>(m_plugins);
+    if (state != "without-plug-ins") {
+        m_container->add(CLSID_STATUSBAR_UI, PLUGIN_TYPE_STATUSBAR_UI, plugin);
+        m_container->add(CLSID_DIALUP_UI_SERVICE, PLUGIN_TYPE_DIALUP_UI_SERVICE, plugin);
+        m_container->add(CLSID_NET_CONNECT_SETTING, PLUGIN_TYPE_NET_CONNECT_SETTING, plugin);
+    }
+    HostCore::setPluginContainer(state == "without-container" ? nullptr : m_container.get());
+    if (state == "gone") {
+        delete m_plugins;
+        m_plugins = nullptr;
+    }
+}
+
+/// The code 1 if none is given; "CODE filled" with the answer filled in all the same.
+void ScriptTest::fail(const QString &function, const QString &code)
+{
+    ModemControl::setResult(
+        function.toStdString(), code.isEmpty() ? 1 : code.section(' ', 0, 0).toInt(),
+        code.endsWith("filled") ? ModemControl::FillOutputs : ModemControl::KeepOutputs);
+}
+
+void ScriptTest::press(const QString &name)
+{
+    QPushButton *const found = button(qPrintable(name));
+    if (found)
+        found->click();
+    else
+        say("no such button");
+}
+
+/// Hides the windows that are shown, and shows the hidden ones.
+void ScriptTest::swap()
+{
+    for (QDialog *window : windows())
+        window->setVisible(!window->isVisible());
+}
+
+/// \a meanwhile is "file dialog: COMMAND" or "message box: COMMAND", empty for nothing.
+void ScriptTest::saveTo(const QString &file, QString meanwhile)
+{
+    const QString path = file.isEmpty() ? QString() : m_host->folder() + file;
+    const auto act = [&](const char *dialog) {
+        const bool now = meanwhile.startsWith(dialog);
+        if (now)
+            this->act(std::exchange(meanwhile, QString()).section(": ", 1));
+        return now;
+    };
+    say(save(button("Save"), path, act));
+}
+
+void ScriptTest::sayWindows()
+{
+    for (const QDialog *window : windows())
+        say(QString("%1 \"%2\", modality %3, focus on %4%5")
+                .arg(window->isVisible() ? "shown" : "hidden", window->windowTitle())
+                .arg(window->windowModality())
+                .arg(window->focusWidget() ? window->focusWidget()->objectName().section('_', 1)
+                                           : "nothing",
+                     window->testAttribute(Qt::WA_DeleteOnClose) ? ", deleted on close" : ""));
+}
+
+/// The buttons below the tabs or the frame, and the gaps in pixels between them and behind them.
+void ScriptTest::sayButtons()
+{
+    const auto *above =
+        window()->findChildren<QWidget *>(QRegularExpression("_(tabWidget|frame)")).first();
+    QMap<int, QPushButton *> buttons;
+    for (QPushButton *button : window()->findChildren<QPushButton *>())
+        buttons[button->mapTo(window(), QPoint()).x()] = button;
+    QStringList row;
+    int end = -1;
+    for (const QPushButton *button : buttons) {
+        const QRect place(button->mapTo(window(), QPoint()), button->size());
+        if (place.top() <= above->mapTo(window(), above->rect().bottomLeft()).y())
+            row << "not below";
+        if (end >= 0)
+            row << QString::number(place.left() - end);
+        row << button->text();
+        end = place.right() + 1;
+    }
+    say(row.join(' ') + ' ' + QString::number(window()->width() - end));
+}
+
+void ScriptTest::sayProperty(const QString &object, const QString &property)
+{
+    const QObject *found = object == "window"
+                               ? window()
+                               : window()->findChild<QObject *>("DiagnosticsUIPlugin_" + object);
+    QString text;
+    QDebug(&text) << (found ? found->property(qPrintable(property)) : QVariant("no such object"));
+    say(text.trimmed());
+}
+
+/// What an open file dialog asks.
+void ScriptTest::sayQuestion()
+{
+    const auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+    QString text;
+    QDebug(&text) << dialog->nameFilters()
+                  << QDir::home().relativeFilePath(dialog->directory().path())
+                  << dialog->findChild<QLineEdit *>()->text() << dialog->acceptMode()
+                  << dialog->fileMode() << dialog->options() << dialog->defaultSuffix();
+    say(text.trimmed());
+}
+
+void ScriptTest::sayAnswer(const QString &getter, const QString &values)
+{
+    setValues(values);
+    const auto found = getters.find(getter);
+    if (found == getters.end())
+        return say("no such getter");
+    say('"' + found->second(logic()) + '"');
+}
+
+void ScriptTest::sayValue(const QString &tab, const QString &row)
+{
+    QString value;
+    m_plugin->getValueLabelVal(tab, row, &value);
+    say(value);
+}
+
+/// The result of a loading, and what the store holds after it.
+void ScriptTest::sayStore(unsigned int result)
+{
+    QStringList tabs;
+    for (const TabDetails &tab :
+         store()->GetTabInformation() ? *store()->GetTabInformation() : QList<TabDetails>()) {
+        QStringList rows;
+        for (const TabItem &row : *tab.items)
+            rows << QString("%1:%2:%3").arg(row.name, row.resourceID).arg(row.show);
+        tabs << QString("%1:%2:%3{%4}")
+                    .arg(tab.name, tab.resourceID)
+                    .arg(tab.show)
+                    .arg(rows.join(','));
+    }
+    say(int(result));
+    say(store()->GetTabInformation() ? tabs.join(' ') : "none");
+    for (const auto *hash :
+         {store()->GetSettingInformation(), store()->GetDeviceCustomizationInformation()}) {
+        QStringList pairs;
+        for (const QString &key : hash ? hash->keys() : QStringList())
+            pairs << key + '=' + hash->value(key);
+        pairs.sort();
+        say(hash ? pairs.join(',') : "none");
+    }
+}
+
+/// How many references can be given back until query layer and store end. Leaves none.
+void ScriptTest::sayReferences()
+{
+    int count = 0;
+    for (const QPointer<Logic> ending(logic()); ending; ++count)
+        Logic::Destroy();
+    say("query layer " + QString::number(count));
+    store();
+    m_log->takeLog();
+    for (count = 0; m_log->takeLog().filter("~DiagnosticsConfigParse").isEmpty() && count < 9;
+         ++count)
+        Store::DestroyInstance();
+    say("store " + QString::number(count));
+}
+
+/// The calls since the last time as a row of docs/sdk-calls.md, if it lacks that.
+void ScriptTest::sayCost(const QString &action)
+{
+    QStringList names;
+    for (const QString &call : m_calls)
+        names << call.section('(', 0, 0);
+    const int calls = names.size();
+    QStringList functions = names;
+    functions.removeDuplicates();
+    for (QString &function : functions) {
+        const int count = names.count(function);
+        function = '`' + function + '`' + (count > 1 ? QString(" (%1)").arg(count) : QString());
+    }
+    const QString row =
+        QString("| %1 | %2 | %3 |").arg(action).arg(calls).arg(functions.join(", "));
+    const QStringList documented =
+        QString(contentOf(DIAG_SOURCE_DIR "/docs/sdk-calls.md")).split('\n');
+    if (!documented.contains(row))
+        say(row);
+    m_calls.clear();
+}
+
+/// More than anyone will configure.
+void ScriptTest::large()
+{
+    QByteArray rows;
+    for (int row = 0; row < 1000; ++row)
+        rows += "<item name='row " + QByteArray::number(row) + "' resourceID='IDS_DIAGNOSE_APN'/>";
+    open("<veltdoc><tab name='Device' resourceID='IDS_TAB_DEVICE'>" + rows + "</tab></veltdoc>");
+    QCOMPARE(flatten(window()).size(), 1001);
+    QCOMPARE(flatten(window()).last(), QString("APN = Unknown"));
+
+    const int depth = 20000;
+    m_host->write("test.xml", "<veltdoc><tab>" + rows.repeated(100) + "</tab>" +
+                                  QByteArray("<a>").repeated(depth) + "<tab name='deep'/>" +
+                                  QByteArray("</a>").repeated(depth) + "</veltdoc>");
+    QCOMPARE(store()->LoadFile("test.xml"), 0u);
+    QCOMPARE(store()->GetTabInformation()->at(1).items->size(), 100000);
+    QCOMPARE(store()->GetTabInformation()->at(1).items->last().name, QString("row 999"));
+    QCOMPARE(store()->GetTabInformation()->last().name, QString("deep"));
+}
+
+QTEST_MAIN(ScriptTest)
+#include "scripts.moc"

@@ -2,21 +2,23 @@
 // SPDX-License-Identifier: MIT
 
 #include "ModemControl.h"
+#include "TestSupport.h"
 #include "sdk/VeltDevice.h"
 #include "sdk/VeltNetwork.h"
 #include "sdk/VeltSms.h"
-#include "support/Rows.h"
 
 #include <QSettings>
+#include <QtTest>
+
+using namespace TestSupport;
 
 namespace {
 
-QStringList keysOf(const QByteArray &modem)
+QStringList keysOf(const QString &modem)
 {
-    return QSettings(QStringLiteral(MODEM_DIR "/%1.ini").arg(QLatin1String(modem)),
-                     QSettings::IniFormat)
+    return QSettings(MODEM_DIR "/" + modem + ".ini", QSettings::IniFormat)
         .allKeys()
-        .filter(QRegularExpression(QStringLiteral("^(?!results/)")));
+        .filter(QRegularExpression("^(?!results/)"));
 }
 
 } // namespace
@@ -26,16 +28,15 @@ class SdkModems : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void shippedModem_data() { addRows("modems.txt", {"values", "results"}); }
+    void shippedModem_data() { addRows(TEST_SOURCE_DIR "/sdk_modems.txt", "shipped"); }
     void shippedModem()
     {
-        QFETCH(QByteArray, values);
-        QFETCH(QByteArray, results);
+        QFETCH(QStringList, fields);
         std::string error;
-        const QByteArray file = QByteArray(MODEM_DIR "/") + QTest::currentDataTag() + ".ini";
+        const QString file = MODEM_DIR "/" + fields.at(0) + ".ini";
         QVERIFY2(ModemControl::attach(file.toStdString(), &error), error.c_str());
         QVERIFY(ModemControl::isPlugged());
-        QCOMPARE(keysOf(QTest::currentDataTag()), keysOf("wcdma"));
+        QCOMPARE(keysOf(fields.at(0)), keysOf("wcdma"));
 
         // What is what on this kind of modem, and the results of functions that only some have.
         int32_t type = -1, sim = -1, count = -1;
@@ -45,36 +46,33 @@ private Q_SLOTS:
         VELT_DevSrv_GetProductType(&type);
         VELT_DevSrv_GetSimStatus(&sim);
         VELT_DevSrv_GetCustomizeName(edition);
-        QByteArray seen;
+        QString seen;
         for (const VELT_ERROR result :
              {VELT_DevSrv_GetImeiInfo(text), VELT_DevSrv_GetESN(&esn), VELT_NetSrv_GetPrlVer(text),
               VELT_DevSrv_GetImsiInfo(text), VELT_SMSSrv_SMSRecordSetGetRecordCount(&count, 1),
               VELT_NetSrv_GetSignalQuality(&signal)})
-            seen += QByteArray::number(qlonglong(result));
-        QCOMPARE(seen, results);
-        QCOMPARE(QStringLiteral("%1,%2,%3,%4")
-                     .arg(type)
-                     .arg(sim)
-                     .arg(QLatin1String(edition), QString::fromLatin1(esn.esn).left(2)),
-                 QString::fromLatin1(values));
+            seen += QString::number(result);
+        QCOMPARE(seen, fields.at(2));
+        QCOMPARE(QString("%1,%2,%3,%4").arg(type).arg(sim).arg(edition, QString(esn.esn).left(2)),
+                 fields.at(1));
     }
 
-    void brokenFile_data() { addRows("broken.txt", {"content", "fault"}); }
+    void brokenFile_data() { addRows(TEST_SOURCE_DIR "/sdk_modems.txt", "broken files"); }
     void brokenFile()
     {
-        QFETCH(QByteArray, content);
-        QFETCH(QByteArray, fault); // empty for a file that is right
+        QFETCH(QStringList, fields);
+        const std::string fault = fields.at(2).toStdString(); // empty for a file that is right
         QTemporaryFile file;
         QVERIFY(file.open());
-        file.write(content);
+        file.write(fields.at(1).toLatin1());
         file.close();
         const std::string name = file.fileName().toStdString();
         std::string error;
         QVERIFY(ModemControl::attach(TEST_SOURCE_DIR "/distinct.ini", &error));
-        QCOMPARE(ModemControl::attach(name, &error), fault.isEmpty());
-        QCOMPARE(error, fault.isEmpty() ? std::string() : name + ": " + fault.toStdString());
+        QCOMPARE(ModemControl::attach(name, &error), fault.empty());
+        QCOMPARE(error, fault.empty() ? std::string() : name + ": " + fault);
         QCOMPARE(ModemControl::value("device/deviceName"),
-                 std::string(fault.isEmpty() ? "M\xfcr" : "MODEL"));
+                 std::string(fault.empty() ? "M\xfcr" : "MODEL"));
     }
 
     void fileThatIsNone()

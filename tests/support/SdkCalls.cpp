@@ -1,0 +1,143 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "SdkCalls.h"
+
+#include <QStringList>
+
+#include <cstring>
+#include <type_traits>
+
+namespace {
+
+using SdkCalls::Call;
+using SdkCalls::Outs;
+
+/// Null for one that was not written.
+template <typename Number>
+QString text(const Number &number)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(&number), sizeof number);
+    return bytes.count('#') == int(sizeof number) ? QString() : QString::number(number);
+}
+
+/// Up to its zero, which is shown as a '$'.
+template <typename Unit, size_t Size>
+QString text(const Unit (&units)[Size])
+{
+    QString shown;
+    const Unit *unit = units;
+    for (; unit < units + Size && *unit && *unit != Unit(0x2323); ++unit)
+        shown += QChar(typename std::make_unsigned<Unit>::type(*unit));
+    return shown + (unit < units + Size && !*unit ? "$" : "");
+}
+
+// clang-format off
+#define CALL(function, ...) #function, [](Outs &o) { return function(__VA_ARGS__); }
+#define UNITS reinterpret_cast<uint16_t *>(o.units)
+const std::vector<Call> calls = {
+    {CALL(VELT_DevSrv_GetDevStatus, o.n), ""},
+    {CALL(VELT_DevSrv_GetProductType, o.n), ""},
+    {CALL(VELT_DevSrv_GetCustomizeName, o.text), ""},
+    {CALL(VELT_DevSrv_GetDeviceName, o.text), ""},
+    {CALL(VELT_DevSrv_GetDevicePort, o.n), ""},
+    {CALL(VELT_DevSrv_GetFirmwareVersion, &o.version), ""},
+    {CALL(VELT_DevSrv_GetImeiInfo, o.text), ""},
+    {CALL(VELT_DevSrv_GetSN, o.text), ""},
+    {CALL(VELT_DevSrv_GetESN, &o.esn), ""},
+    {CALL(VELT_DevSrv_GetVoltage, &o.voltage), ""},
+    {CALL(VELT_DevSrv_GetNumberOfCarrier, o.n), ""},
+    {CALL(VELT_DevSrv_GetSimStatus, o.n), ""},
+    {CALL(VELT_DevSrv_GetPinStatus, 0, o.n, o.c, o.c + 1, o.c + 2), "0"},
+    {CALL(VELT_DevSrv_GetImsiInfo, o.text), ""},
+    {CALL(VELT_DevSrv_GetUserNumMemAbility, o.n, o.n + 1, o.n + 2, o.n + 3, o.n + 4), ""},
+    {CALL(VELT_DevSrv_ReadUserNumItem, 24, &o.own), "24"},
+    {CALL(VELT_DevSrv_ReadUserNumItem, 1, &o.own), "1"},
+    {CALL(VELT_NetSrv_GetCurPlmn, o.n, &o.plmn), ""},
+    {CALL(VELT_NetSrv_GetCSRegState, &o.state), ""},
+    {CALL(VELT_NetSrv_GetPSRegState, &o.state), ""},
+    {CALL(VELT_NetSrv_SetCSRegReport, (void(o), 2)), "2"},
+    {CALL(VELT_NetSrv_GetPSState, o.n), ""},
+    {CALL(VELT_NetSrv_GetRowRSSI, &o.signal), ""},
+    {CALL(VELT_NetSrv_GetSignalQuality, &o.signal), ""},
+    {CALL(VELT_NetSrv_GetEFFile, 1, o.text), "1"},
+    {CALL(VELT_NetSrv_GetPrlVer, o.text), ""},
+    {CALL(VELT_NetSrv_GetIPAddress, "MODEL", "Home", o.text, 64), "\"MODEL\", \"Home\", 64"},
+    {CALL(VELT_NetSrv_GetIPAddress, "", "", o.text, 64), "\"\", \"\", 64"},
+    {CALL(VELT_NetSrv_GetIPAddress, "", "Second", o.text, 64), "\"\", \"Second\", 64"},
+    {CALL(VELT_NetSrv_GetIPAddress, "", "other", o.text, 64), "\"\", \"other\", 64"},
+    {CALL(VELT_NetSrv_GetDNS, "", "", o.text, 64), "\"\", \"\", 64"},
+    {CALL(VELT_PBSrv_PBGetMemAbility, o.n, o.n + 1), ""},
+    {CALL(VELT_PBSrv_GetSize, 1, o.n), "1"},
+    {CALL(VELT_PBSrv_GetCapacity, 1, o.n), "1"},
+    {CALL(VELT_SMSSrv_GetSMSCentreNumber, o.n, UNITS, 0), "0"},
+    {CALL(VELT_SMSSrv_GetSMSCentreNumber, o.n, UNITS, 13), "13"},
+    {CALL(VELT_SMSSrv_SMSRecordSetGetRecordCount, o.n, 1), "1"},
+    {CALL(VELT_SMSSrv_SMSRecordSetGetRecordCount, o.n, 2), "2"},
+    {CALL(VELT_SMSSrv_GetRecordInfo, o.n, o.n + 1, 1), "1"},
+    {CALL(VELT_SMSSrv_GetRecordInfo, o.n, o.n + 1, 2), "2"},
+};
+// clang-format on
+
+} // namespace
+
+Outs::Outs()
+{
+    std::memset(static_cast<void *>(this), '#', sizeof *this);
+}
+
+QString Call::name() const
+{
+    const QString name = QString(function).section('_', 2);
+    return *arguments ? name + '(' + arguments + ')' : name;
+}
+
+const std::vector<Call> &SdkCalls::all()
+{
+    return calls;
+}
+
+QString SdkCalls::show(const Outs &o)
+{
+    QStringList all{text(o.n[0]),
+                    text(o.n[1]),
+                    text(o.n[2]),
+                    text(o.n[3]),
+                    text(o.n[4]),
+                    text(o.n[5]),
+                    text(o.voltage),
+                    text(o.c),
+                    text(o.version.firmware),
+                    text(o.version.hardware),
+                    text(o.esn.esn),
+                    text(o.esn.meid),
+                    text(o.signal.first),
+                    text(o.signal.second),
+                    text(o.own.index),
+                    text(o.own.name),
+                    text(o.own.number),
+                    text(o.state.reportMode),
+                    text(o.state.state),
+                    text(o.state.lac),
+                    text(o.state.cellId),
+                    text(o.plmn.longName),
+                    text(o.plmn.shortName),
+                    text(o.plmn.code),
+                    text(o.plmn.accessTechnology),
+                    text(o.text),
+                    text(o.units)};
+    all.removeAll(QString());
+    return all.join('|');
+}
+
+QMap<QString, QString> SdkCalls::answers()
+{
+    QMap<QString, QString> answers;
+    for (const Call &call : calls) {
+        Outs outs;
+        const VELT_ERROR result = call.run(outs);
+        answers[call.name()] =
+            result == VELT_SUCCESS ? show(outs) : QString("error %1").arg(result);
+    }
+    return answers;
+}

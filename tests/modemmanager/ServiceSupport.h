@@ -54,9 +54,8 @@ private:
     Program m_daemon;
 };
 
-/// All that the SDK says: by a short name the value, or "error N". The values of records are
-/// separated by '|'. "all" is the different answers of all functions; "problem" and the keys of
-/// ModemService::value() are what it tells the host, "events" what was taken.
+/// All that the SDK says: SdkCalls::answers(); the different ones of them as "all"; "problem" and
+/// the keys of ModemService::value(), what it tells the host; "events", what was taken.
 Pairs readSdk();
 
 /// What differs from the expected pairs; empty when nothing does.

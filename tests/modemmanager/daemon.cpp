@@ -69,7 +69,7 @@ void ModemManagerDaemon::changes()
     QCOMPARE(differences(pairs(m_home)), QString());
     m_virtual.modem().set("AT+CREG? AT+CGREG? = +CREG: 2,5,\"1A2C\",\"00C3D4F\",2");
     m_virtual.modem().send("+CREG: 5,\"1A2C\",\"00C3D4F\",2");
-    EXPECT("cs = 2|5|1A2C|C3D4F");
+    EXPECT("GetCSRegState = 2|5|1A2C$|C3D4F$");
 }
 
 void ModemManagerDaemon::stoppedAndKilled()

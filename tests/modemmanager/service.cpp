@@ -131,13 +131,13 @@ void ModemManagerService::withoutServiceOrBus()
     EXPECT("all = error 2; problem = ModemManager is not running.");
     startService();
     m_service->showModem(0, "first");
-    EXPECT("model = first");
+    EXPECT("GetDeviceName = first$");
     m_bus.stop();
     EXPECT("all = error 2; problem = The system's message bus does not answer.");
     QCOMPARE(m_bus.start(), QString());
     startService();
     m_service->showModem(0, "first");
-    EXPECT("model = first; problem =");
+    EXPECT("GetDeviceName = first$; problem =");
 }
 
 void ModemManagerService::connectionAndDevice()
@@ -147,8 +147,9 @@ void ModemManagerService::connectionAndDevice()
     ModemService::attach();
     EXPECT(content("sdk.connected"));
     m_service->have("the other connected");
-    EXPECT("connection/profile = first.example; ip = error 3; dns = error 3");
-    EXPECT("ip of Second = 2001:db8::17");
+    EXPECT("connection/profile = first.example; GetIPAddress(\"\", \"\", 64) = error 3; "
+           "GetDNS(\"\", \"\", 64) = error 3");
+    EXPECT("GetIPAddress(\"\", \"Second\", 64) = 2001:db8::17$");
     QTest::qWait(2 * shortTiming.poll);
     QCOMPARE(m_service->calls, QStringList{"Setup 5"});
 }
@@ -160,7 +161,7 @@ void ModemManagerService::severalModems()
     m_service->showModem(9, "first");
     m_service->showModem(1, "failed", -1);
     ModemService::attach(1);
-    EXPECT("model = second");
+    EXPECT("GetDeviceName = second$");
     // It returns under another path, and the modems' order changes.
     m_service->removeModem(10);
     EXPECT("all = error 2; problem = ModemManager knows no usable modem with the number 1.");
@@ -168,7 +169,7 @@ void ModemManagerService::severalModems()
     m_service->removeModem(9);
     m_service->showModem(11, "second");
     m_service->showModem(12, "first");
-    EXPECT("model = second; problem =");
+    EXPECT("GetDeviceName = second$; problem =");
     ModemService::detach();
     EXPECT("all = error 2; problem =");
 }
@@ -199,19 +200,19 @@ void ModemManagerService::rateOfReadings()
     serviceTiming().poll = 20000;
     ModemService::attach();
     serviceTiming() = shortTiming;
-    EXPECT("model = first");
+    EXPECT("GetDeviceName = first$");
     QTest::qWait(700);
     QCOMPARE(m_service->readings, 1);
     // Many changes at once are read together.
     for (int i = 0; i < 100; ++i)
         m_service->showModem(0, "first", 8, " " + QString::number(i));
-    EXPECT("model = first 99");
+    EXPECT("GetDeviceName = first 99$");
     QTest::qWait(300);
     QVERIFY2(m_service->readings <= 4, qPrintable(QString::number(m_service->readings)));
     m_service->removeModem(0);
-    EXPECT("model = error 2");
+    EXPECT("GetDeviceName = error 2");
     m_service->showModem(1, "first");
-    EXPECT("model = first");
+    EXPECT("GetDeviceName = first$");
 }
 
 QTEST_GUILESS_MAIN(ModemManagerService)

@@ -71,7 +71,8 @@ void ModemManagerWindow::window()
     QVERIFY(!modem.isSimulated());
     QCOMPARE(modem.description(), QString("TM-V1"));
     // The last to come is what the set-up of the signal brings.
-    QTRY_COMPARE_WITH_TIMEOUT(ServiceSupport::readSdk()["rscp"], QString("-87|-6"), 15000);
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceSupport::readSdk()["GetSignalQuality"], QString("-87|-6"),
+                              15000);
     const HostPlugins hostPlugins;
     PluginLoader plugin(MODULE_FILE);
     QVERIFY(plugin.start());
@@ -104,7 +105,8 @@ void ModemManagerWindow::window()
                               QString("ModemManager is not running."), 30000);
     service.startService();
     QVERIFY(service.add());
-    QTRY_COMPARE_WITH_TIMEOUT(ServiceSupport::readSdk()["rscp"], QString("-87|-6"), 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(ServiceSupport::readSdk()["GetSignalQuality"], QString("-87|-6"),
+                              30000);
     visitAll();
     QCOMPARE(flatten(diagnosticsWindow()), rows);
     plugin.notify()->Notify(4100, 0, 0);

@@ -65,6 +65,8 @@ QList<DiagnosticsRow> rowsOf(const QWidget *page)
 
 } // namespace
 
+DiagnosticsReader::DiagnosticsReader(QWidget *window) : m_window(window) {}
+
 DiagnosticsReader::DiagnosticsReader()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
@@ -94,19 +96,26 @@ bool DiagnosticsReader::selectTab(const QString &name) const
     return true;
 }
 
-QList<DiagnosticsPage> DiagnosticsReader::read() const
+QList<DiagnosticsPage> DiagnosticsReader::pages() const
 {
     QList<DiagnosticsPage> pages;
     if (const QFrame *const box = boxOf(m_window))
         pages.append({QString(), m_window->windowTitle(), rowsOf(box)});
-    if (QTabWidget *const tabs = tabsOf(m_window)) {
-        const int shown = tabs->currentIndex();
-        for (int index = 0; index < tabs->count(); ++index) {
-            tabs->setCurrentIndex(index);
-            const QWidget *const page = tabs->widget(index);
-            pages.append({tabName(page), tabs->tabText(index), rowsOf(page)});
-        }
-        tabs->setCurrentIndex(shown);
+    const QTabWidget *const tabs = tabsOf(m_window);
+    for (int index = 0; tabs && index < tabs->count(); ++index) {
+        const QWidget *const page = tabs->widget(index);
+        pages.append({tabName(page), tabs->tabText(index), rowsOf(page)});
     }
     return pages;
+}
+
+QList<DiagnosticsPage> DiagnosticsReader::read() const
+{
+    if (QTabWidget *const tabs = tabsOf(m_window)) {
+        const int shown = tabs->currentIndex();
+        for (int index = 0; index < tabs->count(); ++index)
+            tabs->setCurrentIndex(index);
+        tabs->setCurrentIndex(shown);
+    }
+    return pages();
 }

@@ -31,6 +31,9 @@ public:
     /// Takes the visible diagnostics window.
     DiagnosticsReader();
 
+    /// Takes this window, or the one below it.
+    explicit DiagnosticsReader(QWidget *window);
+
     /// The window; null when none is open, or no longer.
     QWidget *window() const { return m_window; }
 
@@ -39,6 +42,9 @@ public:
 
     /// Shows the tab with this configured name; false when there is none.
     bool selectTab(const QString &name) const;
+
+    /// All pages as they are; a tab that was never visited has no values.
+    QList<DiagnosticsPage> pages() const;
 
     /// All pages. Each tab is visited, which fills it, and the one shown now is shown again.
     QList<DiagnosticsPage> read() const;

@@ -62,7 +62,7 @@ private:
 
     LogCapture *m_log = nullptr;
     ConfiguredHost *m_host = nullptr;
-    QLibrary m_library{QLatin1String(MODULE_FILE)};
+    QLibrary m_library{MODULE_FILE};
 };
 
 void ModuleTest::init()
@@ -84,13 +84,12 @@ void ModuleTest::cleanup()
 void ModuleTest::exportedSymbols()
 {
     QProcess nm;
-    nm.start(QLatin1String("nm"), {QLatin1String("-D"), QLatin1String("--defined-only"),
-                                   QLatin1String("-j"), QLatin1String(MODULE_FILE)});
+    nm.start("nm", {"-D", "--defined-only", "-j", MODULE_FILE});
     QVERIFY(nm.waitForFinished());
-    QStringList symbols = QString::fromLatin1(nm.readAllStandardOutput())
-                              .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QStringList symbols =
+        QString::fromLatin1(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
     symbols.sort();
-    symbols.replaceInStrings(QLatin1String("metadata_v2"), QLatin1String("metadata")); // Qt 6
+    symbols.replaceInStrings("metadata_v2", "metadata"); // Qt 6
     QCOMPARE(symbols, list("qt_plugin_instance|qt_plugin_query_metadata|"
                            "qt_plugin_query_verification_data"));
 }
@@ -143,7 +142,7 @@ void ModuleTest::slotsOfTheTables()
 {
     QObject *object = instance();
     void *plugin = object->qt_metacast("IUIPlugin");
-    const QString name = QLatin1String("DiagnosticsUIPlugin");
+    const QString name = "DiagnosticsUIPlugin";
 
     callSlot<void>(plugin, 2);                      // Release
     QCOMPARE(callSlot<int>(plugin, 3), 0);          // GetLastError
@@ -166,21 +165,20 @@ void ModuleTest::slotsOfTheTables()
     QCOMPARE(rect, QRect(1, 2, 3, 4));
     QCOMPARE(callSlot<bool>(plugin, 15), false); // IsReady
     const QString none;
-    const QString german = QLatin1String("de");
+    const QString german = "de";
     QCOMPARE((callSlot<bool, const QString *>(plugin, 16, &none)), false); // ChangeLang
     QCOMPARE((callSlot<bool, const QString *>(plugin, 16, &german)), true);
 
     void *notify = object->qt_metacast("INotify");
     QCOMPARE((callSlot<int, unsigned, unsigned, unsigned>(notify, 2, 4100, 0, 0)), 0);
-    const QString at = QLatin1String("TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: ");
-    QCOMPARE(m_log->takeLog(), QStringList({at + QLatin1String("ShowWindow: called"),
-                                            at + QLatin1String("Notify: called")}));
+    const QString at = "TIME: ../../src/DiagnosisPlugin/DiagnosticsUIPlugin: ";
+    QCOMPARE(m_log->takeLog(), QStringList({at + "ShowWindow: called", at + "Notify: called"}));
 
     QCOMPARE(callSlot<int>(plugin, 4), 1); // Init
-    QVERIFY(m_log->takeLog().contains(at + QLatin1String("Init: called")));
+    QVERIFY(m_log->takeLog().contains(at + "Init: called"));
     IDestroyEvent *destroy = qobject_cast<IBasePlugin *>(object);
     callSlot<void>(destroy, 2); // OnDestroy
-    QVERIFY(m_log->takeLog().last().contains(QLatin1String("DestroyInstance")));
+    QVERIFY(m_log->takeLog().last().contains("DestroyInstance"));
 
     // The object's own table goes on behind QObject's in the order of the class.
     const int own = 2 + 10;                      // two destructors and ten functions of QObject
@@ -203,17 +201,16 @@ void ModuleTest::metaObject()
         QCOMPARE(meta->method(index).access(), QMetaMethod::Private);
         methods.append(QString::fromLatin1(meta->method(index).methodSignature()));
     }
-    QCOMPARE(methods.join(QLatin1Char(' ')),
-             QString::fromLatin1("onTabChange(int) onButtonCancelClicked() onButtonSaveClicked() "
-                                 "onButtonRefreshClicked() onDeviceAvailable() "
-                                 "onDeviceUnavailable() onDlgClose()"));
+    QCOMPARE(methods.join(' '),
+             QString("onTabChange(int) onButtonCancelClicked() onButtonSaveClicked() "
+                     "onButtonRefreshClicked() onDeviceAvailable() "
+                     "onDeviceUnavailable() onDlgClose()"));
     // The dispatcher takes its seven slots off the index and hands the rest back.
     void *arguments[1] = {nullptr};
     const int offset = meta->methodOffset();
     QCOMPARE(object->qt_metacall(QMetaObject::InvokeMetaMethod, offset + 10, arguments), 3);
     QCOMPARE(object->qt_metacall(QMetaObject::InvokeMetaMethod, offset + 4, arguments), -3);
-    QCOMPARE(m_log->takeLog().last().section(QLatin1String(": "), 2),
-             QString::fromLatin1("onDeviceAvailable: called"));
+    QCOMPARE(m_log->takeLog().last().section(": ", 2), QString("onDeviceAvailable: called"));
 }
 
 void ModuleTest::eventsFromAnotherThread()
@@ -232,13 +229,13 @@ void ModuleTest::eventsFromAnotherThread()
     other.join();
     QVERIFY(ModemControl::waitForEvents(10000));
     const QStringList delivered = m_log->takeLog();
-    QCOMPARE(delivered.filter(QLatin1String("Dev Evenet(6601)")).size(), 25);
-    QCOMPARE(delivered.filter(QLatin1String("onDevice")).size(), 0); // only queued so far
+    QCOMPARE(delivered.filter("Dev Evenet(6601)").size(), 25);
+    QCOMPARE(delivered.filter("onDevice").size(), 0); // only queued so far
     settle();
-    const QStringList reached = m_log->takeLog().filter(QLatin1String("onDevice"));
+    const QStringList reached = m_log->takeLog().filter("onDevice");
     QCOMPARE(reached.size(), 50);
-    QVERIFY(reached.at(0).contains(QLatin1String("onDeviceUnavailable")));
-    QVERIFY(reached.at(49).contains(QLatin1String("onDeviceAvailable")));
+    QVERIFY(reached.at(0).contains("onDeviceUnavailable"));
+    QVERIFY(reached.at(49).contains("onDeviceAvailable"));
 
     ModemControl::raiseEvent(6601);
     plugin->OnDestroy(); // with an event on its way
@@ -255,7 +252,7 @@ void ModuleTest::loadAndUnload()
     delete instance();
     QVERIFY(m_library.unload());
     for (int round = 0; round < 20; ++round) {
-        QPluginLoader loader{QLatin1String(MODULE_FILE)};
+        QPluginLoader loader{MODULE_FILE};
         auto *plugin = qobject_cast<IUIPlugin *>(loader.instance());
         QVERIFY(plugin);
         QCOMPARE(plugin->Init(), 1);

@@ -3,6 +3,7 @@
 
 #include "TestSupport.h"
 
+#include "DiagnosticsReader.h"
 #include "HostCore.h"
 #include "ModemControl.h"
 
@@ -12,14 +13,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
-#include <QFormLayout>
-#include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMutex>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QTimer>
 #include <QtTest>
 
@@ -30,29 +28,16 @@ QStringList logLines;
 QStringList warnings;
 QtMessageHandler previousHandler = nullptr;
 
-/// Whether a text has the form of "hh:mm:ss:zzz".
-bool isTime(const QString &text)
-{
-    QString pattern = text;
-    for (QChar &character : pattern) {
-        if (character.isDigit())
-            character = '9';
-    }
-    return pattern == "99:99:99:999";
-}
-
 void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     // The offscreen platform says so of itself, for windows with size constraints.
     if (message == "This plugin does not support propagateSizeHints()")
         return;
+    static const QRegularExpression time("\\d\\d:\\d\\d:\\d\\d:\\d\\d\\d");
+    const QRegularExpressionMatch found = time.match(message);
     QString line = message;
-    for (int at = 0; at + 12 <= line.size(); ++at) {
-        if (isTime(line.mid(at, 12))) {
-            line.replace(at, 12, "TIME");
-            break;
-        }
-    }
+    if (found.hasMatch())
+        line.replace(found.capturedStart(), found.capturedLength(), "TIME");
     QMutexLocker lock(&mutex);
     (type == QtDebugMsg ? logLines : warnings).append(line);
 }
@@ -189,34 +174,18 @@ void ConfiguredHost::write(const char *fileName, const QByteArray &content)
 
 QWidget *diagnosticsWindow()
 {
-    const auto windows = QApplication::topLevelWidgets();
-    for (QWidget *window : windows) {
-        const auto *tabs = window->findChild<QWidget *>("DiagnosticsUIPlugin_tabWidgetDiag");
-        if (window->isVisible() && tabs && tabs->window() == window)
-            return window;
-    }
-    return nullptr;
+    return DiagnosticsReader().window();
 }
 
 QStringList flatten(QWidget *window)
 {
+    const DiagnosticsReader reader(window);
     QStringList rows;
-    const auto addForm = [&rows](const QWidget *page) {
-        const auto *form = qobject_cast<QFormLayout *>(page->layout());
-        const auto text = [form](int row, QFormLayout::ItemRole role) {
-            return qobject_cast<QLabel *>(form->itemAt(row, role)->widget())->text();
-        };
-        for (int row = 0; form && row < form->rowCount(); ++row)
-            rows.append(text(row, QFormLayout::LabelRole) + " = " +
-                        text(row, QFormLayout::FieldRole));
-    };
-    const auto *frame = window->findChild<QFrame *>("DiagnosticsUIPlugin_frameCdmaDiag");
-    if (frame)
-        addForm(frame);
-    const auto *tabs = window->findChild<QTabWidget *>("DiagnosticsUIPlugin_tabWidgetDiag");
-    for (int index = 0; tabs && index < tabs->count(); ++index) {
-        rows.append('[' + tabs->tabText(index) + ']');
-        addForm(tabs->widget(index));
+    for (const DiagnosticsPage &page : reader.pages()) {
+        if (!reader.tabNames().isEmpty())
+            rows.append('[' + page.title + ']');
+        for (const DiagnosticsRow &row : page.rows)
+            rows.append(row.caption + " = " + row.value);
     }
     return rows;
 }

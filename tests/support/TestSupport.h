@@ -73,7 +73,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// The open tabbed window, or null.
+/// The visible diagnostics window, or null.
 QWidget *diagnosticsWindow();
 
 /// A diagnostics window, or that below a widget, as text: "[title]" for each tab and "caption =

@@ -113,4 +113,25 @@ void startEvents()
     VELT_DevSrv_RegisterDevInitEventCallback(takeEvent);
 }
 
+void perform(const QStringList &steps, Commands commands)
+{
+    commands["attach"] = [](const QString &index) { ModemService::attach(index.toInt()); };
+    commands["detach"] = [](const QString &) { ModemService::detach(); };
+    commands["absent"] = [](const QString &) {
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(!ModemService::isPresent(5000) && timer.elapsed() < 2000);
+    };
+    commands["events"] = [](const QString &) { startEvents(); };
+    commands["expect"] = [](const QString &pairs) { EXPECT(pairs); };
+    commands["pause"] = [](const QString &time) { QTest::qWait(time.toInt()); };
+    for (const QString &step : steps) {
+        const auto command = commands.find(step.section(' ', 0, 0));
+        QVERIFY2(command != commands.end(), qPrintable(step));
+        command->second(step.section(' ', 1));
+        if (QTest::currentTestFailed())
+            QFAIL(qPrintable(step));
+    }
+}
+
 } // namespace ServiceSupport

@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <functional>
+#include <map>
 
 namespace ServiceSupport {
 
@@ -69,6 +71,13 @@ void startEvents();
 #define EXPECT(expected)                                                                           \
     QTRY_COMPARE_WITH_TIMEOUT(ServiceSupport::differences(ServiceSupport::pairs(expected)),        \
                               QString(), 15000)
+
+using Commands = std::map<QString, std::function<void(const QString &)>>;
+
+/// Takes the steps of a script, each a command of these or the following, and its argument.
+///     attach INDEX | detach | absent | events        starts to take them
+///     expect PAIRS | pause MILLISECONDS
+void perform(const QStringList &steps, Commands commands);
 
 } // namespace ServiceSupport
 

@@ -30,8 +30,8 @@ private slots:
             QSKIP("run by ./test --full");
         modems();
     }
-    void changes();
-    void stoppedAndKilled();
+    void scripts_data() { TestSupport::addRows(TEST_SOURCE_DIR "/daemon.txt", "scripts"); }
+    void scripts();
 
 private:
     VirtualModem m_virtual;
@@ -60,38 +60,22 @@ void ModemManagerDaemon::modems()
     EXPECT(fields.at(3) == "home" ? m_home : fields.at(3));
 }
 
-void ModemManagerDaemon::changes()
+void ModemManagerDaemon::scripts()
 {
-    QVERIFY(m_virtual.add());
-    EXPECT(m_home);
-    ModemService::attach();
-    QVERIFY(ModemService::isPresent(5000));
-    QCOMPARE(differences(pairs(m_home)), QString());
-    m_virtual.modem().set("AT+CREG? AT+CGREG? = +CREG: 2,5,\"1A2C\",\"00C3D4F\",2");
-    m_virtual.modem().send("+CREG: 5,\"1A2C\",\"00C3D4F\",2");
-    EXPECT("GetCSRegState = 2|5|1A2C$|C3D4F$");
-}
-
-void ModemManagerDaemon::stoppedAndKilled()
-{
-    startEvents();
-    QVERIFY(m_virtual.add());
-    EXPECT(m_home);
-    m_virtual.daemon().signal(SIGSTOP);
-    QCOMPARE(differences(pairs(m_home)), QString());
-    EXPECT("all = error 5; device/deviceName =; problem = ModemManager has not answered for 1 "
-           "seconds.");
-    QVERIFY(!ModemService::isPresent(0));
-    QTest::qWait(2 * shortTiming.confirmation);
-    m_virtual.daemon().signal(SIGCONT);
-    EXPECT(m_home + "\nevents = 6000:3 6014:3");
-
-    m_virtual.daemon().signal(SIGKILL);
-    EXPECT("all = error 2; problem = ModemManager is not running.; events = 6000:3 6014:3 "
-           "6601:error 2");
-    m_virtual.startService();
-    QVERIFY(m_virtual.add());
-    EXPECT(m_home + "\nevents = 6000:3 6014:3 6601:error 2 6000:3 6014:3");
+    QFETCH(QStringList, fields);
+    perform(
+        fields.mid(1),
+        {
+            {"service", [&](const QString &) { m_virtual.startService(); }},
+            {"add", [&](const QString &) { QVERIFY(m_virtual.add()); }},
+            {"home", [&](const QString &events) { EXPECT(m_home + "\nevents = " + events); }},
+            {"still-home",
+             [&](const QString &) { QCOMPARE(differences(pairs(m_home)), QString()); }},
+            {"present", [&](const QString &) { QVERIFY(ModemService::isPresent(5000)); }},
+            {"answer", [&](const QString &answers) { m_virtual.modem().set(answers); }},
+            {"send", [&](const QString &line) { m_virtual.modem().send(line.toLatin1()); }},
+            {"signal", [&](const QString &number) { m_virtual.daemon().signal(number.toInt()); }},
+        });
 }
 
 QTEST_GUILESS_MAIN(ModemManagerDaemon)

@@ -3,6 +3,7 @@
 
 #include "ModemService.h"
 #include "ServiceSupport.h"
+#include "TestSupport.h"
 #include "modemmanager/ServiceTiming.h"
 
 #include <QtTest>
@@ -37,7 +38,7 @@ public:
         const auto sections = QJsonDocument::fromJson(content("service.json").toUtf8());
         m_objects.insert(sections.toVariant().toMap()[section].toMap());
     }
-    void showModem(int number, const QString &identity, int state = 8, const QString &version = "")
+    void showModem(int number, const QString &identity, int state, const QString &version = "")
     {
         const bool isNew = !m_objects.contains(path(number));
         const QVariantMap modem{{"State", state},
@@ -91,10 +92,8 @@ class ModemManagerService : public QObject
 private slots:
     void initTestCase();
     void cleanup() { ModemService::detach(); }
-    void withoutServiceOrBus(); // first, before there is any
-    void connectionAndDevice();
-    void severalModems();
-    void life();
+    void scripts_data() { TestSupport::addRows(TEST_SOURCE_DIR "/service.txt", "scripts"); }
+    void scripts();
     void rateOfReadings();
 
 private:
@@ -121,82 +120,30 @@ void ModemManagerService::startService()
     QVERIFY(bus.registerService(service));
 }
 
-void ModemManagerService::withoutServiceOrBus()
+void ModemManagerService::scripts()
 {
-    QElapsedTimer timer;
-    timer.start();
-    ModemService::attach();
-    QVERIFY(!ModemService::isPresent(5000));
-    QVERIFY(timer.elapsed() < 2000);
-    EXPECT("all = error 2; problem = ModemManager is not running.");
-    startService();
-    m_service->showModem(0, "first");
-    EXPECT("GetDeviceName = first$");
-    m_bus.stop();
-    EXPECT("all = error 2; problem = The system's message bus does not answer.");
-    QCOMPARE(m_bus.start(), QString());
-    startService();
-    m_service->showModem(0, "first");
-    EXPECT("GetDeviceName = first$; problem =");
-}
-
-void ModemManagerService::connectionAndDevice()
-{
-    startService();
-    m_service->have("connected");
-    ModemService::attach();
-    EXPECT(content("sdk.connected"));
-    m_service->have("the other connected");
-    EXPECT("connection/profile = first.example; GetIPAddress(\"\", \"\", 64) = error 3; "
-           "GetDNS(\"\", \"\", 64) = error 3");
-    EXPECT("GetIPAddress(\"\", \"Second\", 64) = 2001:db8::17$");
-    QTest::qWait(2 * shortTiming.poll);
-    QCOMPARE(m_service->calls, QStringList{"Setup 5"});
-}
-
-void ModemManagerService::severalModems()
-{
-    startService();
-    m_service->showModem(10, "second");
-    m_service->showModem(9, "first");
-    m_service->showModem(1, "failed", -1);
-    ModemService::attach(1);
-    EXPECT("GetDeviceName = second$");
-    // It returns under another path, and the modems' order changes.
-    m_service->removeModem(10);
-    EXPECT("all = error 2; problem = ModemManager knows no usable modem with the number 1.");
-    QVERIFY(!ModemService::isPresent(0));
-    m_service->removeModem(9);
-    m_service->showModem(11, "second");
-    m_service->showModem(12, "first");
-    EXPECT("GetDeviceName = second$; problem =");
-    ModemService::detach();
-    EXPECT("all = error 2; problem =");
-}
-
-void ModemManagerService::life()
-{
-    startEvents();
-    startService();
-    ModemService::attach();
-    EXPECT("problem = ModemManager knows no usable modem.");
-    m_service->showModem(0, "first", 1);
-    EXPECT("events = 6000:2");
-    m_service->showModem(0, "first", 2); // locked
-    EXPECT("events = 6000:2 6014:3");
-    m_service->showModem(0, "first");
-    QTest::qWait(2 * shortTiming.poll);
-    m_service->removeModem(0);
-    EXPECT("events = 6000:2 6014:3 6601:error 2");
-    m_service->showModem(1, "first");
-    EXPECT("events = 6000:2 6014:3 6601:error 2 6000:3 6014:3");
-    QCOMPARE(m_service->calls, QStringList());
+    QFETCH(QStringList, fields);
+    perform(
+        fields.mid(1),
+        {
+            {"service", [&](const QString &) { startService(); }},
+            {"stop-bus", [&](const QString &) { m_bus.stop(); }},
+            {"start-bus", [&](const QString &) { QCOMPARE(m_bus.start(), QString()); }},
+            {"show",
+             [&](const QString &a) {
+                 m_service->showModem(a.section(' ', 0, 0).toInt(), a.section(' ', 1, 1),
+                                      a.section(' ', 2).toInt());
+             }},
+            {"remove", [&](const QString &number) { m_service->removeModem(number.toInt()); }},
+            {"have", [&](const QString &section) { m_service->have(qPrintable(section)); }},
+            {"asked", [&](const QString &calls) { QCOMPARE(m_service->calls.join(", "), calls); }},
+        });
 }
 
 void ModemManagerService::rateOfReadings()
 {
     startService();
-    m_service->showModem(0, "first");
+    m_service->showModem(0, "first", 8);
     serviceTiming().poll = 20000;
     ModemService::attach();
     serviceTiming() = shortTiming;
@@ -211,7 +158,7 @@ void ModemManagerService::rateOfReadings()
     QVERIFY2(m_service->readings <= 4, qPrintable(QString::number(m_service->readings)));
     m_service->removeModem(0);
     EXPECT("GetDeviceName = error 2");
-    m_service->showModem(1, "first");
+    m_service->showModem(1, "first", 8);
     EXPECT("GetDeviceName = first$");
 }
 

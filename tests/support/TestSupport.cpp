@@ -80,7 +80,7 @@ void addRows(const char *fileName, const char *section)
 {
     QTest::addColumn<QStringList>("fields");
     bool inSection = false;
-    for (const QByteArray &line : contentOf(fileName).split('\n')) {
+    for (const QByteArray &line : contentOf(fileName).replace("\n    ", " | ").split('\n')) {
         if (line.startsWith('['))
             inSection = line == '[' + QByteArray(section) + ']';
         else if (inSection && !line.isEmpty() && !line.startsWith('#'))

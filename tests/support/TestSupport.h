@@ -18,7 +18,8 @@ class QWidget;
 namespace TestSupport {
 
 /// Adds a row of test data for each line of a section, "[name]", of a file: its fields, which " | "
-/// separates, in the one column "fields". Fields may have escapes.
+/// separates or which have indented lines of their own, without any comment between, in the one
+/// column "fields". Fields may have escapes.
 void addRows(const char *fileName, const char *section);
 
 /// The content of a file, which must be readable.

@@ -48,9 +48,9 @@ const QLabel *labelAt(const QFormLayout *form, int row, QFormLayout::ItemRole ro
     return item ? qobject_cast<const QLabel *>(item->widget()) : nullptr;
 }
 
-QList<DiagnosticsRow> rowsOf(const QWidget *page)
+QList<ShownRow> rowsOf(const QWidget *page)
 {
-    QList<DiagnosticsRow> rows;
+    QList<ShownRow> rows;
     const auto *const form = qobject_cast<const QFormLayout *>(page->layout());
     for (int row = 0; form && row < form->rowCount(); ++row) {
         const QLabel *const caption = labelAt(form, row, QFormLayout::LabelRole);
@@ -96,9 +96,9 @@ bool DiagnosticsReader::selectTab(const QString &name) const
     return true;
 }
 
-QList<DiagnosticsPage> DiagnosticsReader::pages() const
+QList<ShownPage> DiagnosticsReader::pages() const
 {
-    QList<DiagnosticsPage> pages;
+    QList<ShownPage> pages;
     if (const QFrame *const box = boxOf(m_window))
         pages.append({QString(), m_window->windowTitle(), rowsOf(box)});
     const QTabWidget *const tabs = tabsOf(m_window);
@@ -109,7 +109,7 @@ QList<DiagnosticsPage> DiagnosticsReader::pages() const
     return pages;
 }
 
-QList<DiagnosticsPage> DiagnosticsReader::read() const
+QList<ShownPage> DiagnosticsReader::read() const
 {
     if (QTabWidget *const tabs = tabsOf(m_window)) {
         const int shown = tabs->currentIndex();

@@ -10,18 +10,18 @@
 #include <QStringList>
 #include <QWidget>
 
-struct DiagnosticsRow
+struct ShownRow
 {
     QString name; ///< the configured name; in the window of CDMA devices the resource key
     QString caption;
     QString value;
 };
 
-struct DiagnosticsPage
+struct ShownPage
 {
     QString name; ///< the configured name; null for the window of CDMA devices
     QString title;
-    QList<DiagnosticsRow> rows;
+    QList<ShownRow> rows;
 };
 
 /// Reads the open diagnostics window, which the host knows by the names of its objects only.
@@ -44,10 +44,10 @@ public:
     bool selectTab(const QString &name) const;
 
     /// All pages as they are; a tab that was never visited has no values.
-    QList<DiagnosticsPage> pages() const;
+    QList<ShownPage> pages() const;
 
     /// All pages. Each tab is visited, which fills it, and the one shown now is shown again.
-    QList<DiagnosticsPage> read() const;
+    QList<ShownPage> read() const;
 
 private:
     QPointer<QWidget> m_window;

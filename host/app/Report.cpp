@@ -96,8 +96,8 @@ void Report::addFact(const QString &name, const QString &value)
 
 void Report::mask()
 {
-    for (DiagnosticsPage &page : m_pages) {
-        for (DiagnosticsRow &row : page.rows)
+    for (ShownPage &page : m_pages) {
+        for (ShownRow &row : page.rows)
             row.value = masked(row);
     }
 }
@@ -105,9 +105,9 @@ void Report::mask()
 QString Report::rows() const
 {
     QStringList blocks;
-    for (const DiagnosticsPage &page : m_pages) {
+    for (const ShownPage &page : m_pages) {
         QString block = page.title + QLatin1Char('\n');
-        for (const DiagnosticsRow &row : page.rows)
+        for (const ShownRow &row : page.rows)
             block += line(row.caption, row.value);
         blocks.append(block);
     }
@@ -125,9 +125,9 @@ QString Report::text() const
 QByteArray Report::json() const
 {
     QJsonArray tabs;
-    for (const DiagnosticsPage &page : m_pages) {
+    for (const ShownPage &page : m_pages) {
         QJsonArray rows;
-        for (const DiagnosticsRow &row : page.rows)
+        for (const ShownRow &row : page.rows)
             rows.append(QJsonObject{
                 {QStringLiteral("name"), row.name},
                 {QStringLiteral("caption"), row.caption},
@@ -164,7 +164,7 @@ bool Report::write(const QByteArray &content, const QString &fileName, QString *
     return false;
 }
 
-QString Report::masked(const DiagnosticsRow &row)
+QString Report::masked(const ShownRow &row)
 {
     if (isUnknown(row.value))
         return row.value;

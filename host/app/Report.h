@@ -13,7 +13,7 @@
 class Report
 {
 public:
-    explicit Report(const QList<DiagnosticsPage> &pages) : m_pages(pages) {}
+    explicit Report(const QList<ShownPage> &pages) : m_pages(pages) {}
 
     /// Adds a fact of the head, in this order.
     void addFact(const QString &name, const QString &value);
@@ -35,11 +35,11 @@ public:
 
     /// A row's value with '*' for each character that must not be public, chosen by the row's
     /// configured name. The unknown text and the values of other rows stay.
-    static QString masked(const DiagnosticsRow &row);
+    static QString masked(const ShownRow &row);
 
 private:
     QList<QPair<QString, QString>> m_facts;
-    QList<DiagnosticsPage> m_pages;
+    QList<ShownPage> m_pages;
 };
 
 #endif

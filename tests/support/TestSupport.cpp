@@ -181,10 +181,10 @@ QStringList flatten(QWidget *window)
 {
     const DiagnosticsReader reader(window);
     QStringList rows;
-    for (const DiagnosticsPage &page : reader.pages()) {
+    for (const ShownPage &page : reader.pages()) {
         if (!reader.tabNames().isEmpty())
             rows.append('[' + page.title + ']');
-        for (const DiagnosticsRow &row : page.rows)
+        for (const ShownRow &row : page.rows)
             rows.append(row.caption + " = " + row.value);
     }
     return rows;

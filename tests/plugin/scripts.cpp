@@ -157,7 +157,7 @@ class ScriptTest : public PluginTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { HostCore::applyLook(*qApp); }
+    void initTestCase();
     void init();
     void cleanup();
     void play_data();
@@ -177,9 +177,10 @@ private:
     void fail(const QString &function, const QString &code);
     void press(const QString &name);
     void swap();
-    void saveTo(const QString &file, QString meanwhile);
+    void saveTo(const QString &name, QString meanwhile);
     void sayWindows();
     void sayButtons();
+    void sayFile(const QString &name);
     void sayProperty(const QString &object, const QString &property);
     void sayQuestion();
     void sayAnswer(const QString &getter, const QString &values);
@@ -188,6 +189,11 @@ private:
     void sayReferences();
     void sayCost(const QString &action);
 
+    QString file(const QString &name) const { return m_host->folder() + name; }
+    void write(const QString &name, const QByteArray &content)
+    {
+        m_host->write(qPrintable(name), content);
+    }
     QList<QDialog *> windows() const
     {
         return m_parent ? m_parent->findChildren<QDialog *>(QString(), Qt::FindDirectChildrenOnly)
@@ -212,6 +218,7 @@ private:
     static Logic *logic() { return get<Logic>(Logic::Destroy); }
     static Store *store() { return get<Store>(Store::DestroyInstance); }
 
+    std::map<QString, std::function<void(const QString &)>> m_commands;
     HostPlugins *m_plugins = nullptr;
     std::unique_ptr<HostCore::PluginRegister> m_container;
     TranslationRecorder m_recorder;
@@ -281,65 +288,66 @@ void ScriptTest::play()
     compare(QTest::currentDataTag(), played, lines);
 }
 
-void ScriptTest::act(const QString &line)
+void ScriptTest::initTestCase()
 {
-    const QString a = unescape(line.section(' ', 1));
-    const QString file = m_host->folder() + a;
-    const auto part = [&](const char *separator, int from, int to = -1) {
-        return a.section(separator, from, to);
-    };
+    HostCore::applyLook(*qApp);
+    typedef const QString &A;
     // clang-format off
-    const std::map<QString, std::function<void()>> commands = {
-        {"configuration", [&] { m_host->write("DiagnosisConfig.xml", a.toUtf8()); }},
-        {"write", [&] { m_host->write(qPrintable(part(" ", 0, 0)), part(" ", 1).toUtf8()); }},
-        {"remove", [&] { QFile::remove(file); }},
-        {"language", [&] { setLanguage(qPrintable(a)); }},
-        {"host", [&] { setHost(a); }},
-        {"modem", [&] { attachModem(qPrintable(a)); }},
-        {"set", [&] { setValues(a); }},
-        {"fail", [&] { fail(part("=", 0, 0), part("=", 1)); }},
-        {"unplug", [] { ModemControl::unplug(); }},
-        {"plug", [] { ModemControl::plug(); }},
-        {"event", [&] { say(Logic::OnDevEvents(a.toInt(), nullptr)); }},
-        {"quiet", [&] { m_quiet = true; }},
+    m_commands = {
+        {"configuration", [this](A a) { write("DiagnosisConfig.xml", a.toUtf8()); }},
+        {"write", [this](A a) { write(a.section(' ', 0, 0), a.section(' ', 1).toUtf8()); }},
+        {"remove", [this](A a) { QFile::remove(file(a)); }},
+        {"language", [](A a) { setLanguage(qPrintable(a)); }},
+        {"host", [this](A a) { setHost(a); }},
+        {"modem", [](A a) { attachModem(qPrintable(a)); }},
+        {"set", [](A a) { setValues(a); }},
+        {"fail", [this](A a) { fail(a.section("=", 0, 0), a.section("=", 1)); }},
+        {"unplug", [](A) { ModemControl::unplug(); }},
+        {"plug", [](A) { ModemControl::plug(); }},
+        {"event", [this](A a) { say(Logic::OnDevEvents(a.toInt(), nullptr)); }},
+        {"quiet", [this](A) { m_quiet = true; }},
 
-        {"Init", [&] { say(m_plugin->Init()); }},
-        {"ShowWindow", [&] { say(show()); }},
-        {"open", [&] { open(); }},
-        {"Notify", [&] { QCOMPARE(m_plugin->Notify(a.toUInt(), 4100, 4100), 0); }},
-        {"OnDestroy", [&] { m_plugin->OnDestroy(); }},
-        {"ReleaseData", [&] { store()->ReleaseData(); }},
-        {"drop-rows", [&] { clear(store()->GetTabInformation()->first().items); }},
-        {"delete-parent", [&] { clear(m_parent); }},
-        {"delete-plug-in", [&] { clear(m_plugin); }},
+        {"Init", [this](A) { say(m_plugin->Init()); }},
+        {"ShowWindow", [this](A) { say(show()); }},
+        {"open", [this](A) { open(); }},
+        {"Notify", [this](A a) { QCOMPARE(m_plugin->Notify(a.toUInt(), 4100, 4100), 0); }},
+        {"OnDestroy", [this](A) { m_plugin->OnDestroy(); }},
+        {"ReleaseData", [this](A) { store()->ReleaseData(); }},
+        {"drop-rows", [this](A) { clear(store()->GetTabInformation()->first().items); }},
+        {"delete-parent", [this](A) { clear(m_parent); }},
+        {"delete-plug-in", [this](A) { clear(m_plugin); }},
 
-        {"visit", [&] { window()->findChild<QTabWidget *>()->setCurrentIndex(a.toInt()); }},
-        {"press", [&] { press(a); }},
-        {"close", [&] { window()->close(); }},
-        {"Esc", [&] { QTest::keyClick(window(), Qt::Key_Escape); }},
-        {"swap", [&] { swap(); }},
-        {"save", [&] { saveTo(part("while ", 0, 0).trimmed(), part("while ", 1)); }},
+        {"visit", [this](A a) { window()->findChild<QTabWidget *>()->setCurrentIndex(a.toInt()); }},
+        {"press", [this](A a) { press(a); }},
+        {"close", [this](A) { window()->close(); }},
+        {"Esc", [this](A) { QTest::keyClick(window(), Qt::Key_Escape); }},
+        {"swap", [this](A) { swap(); }},
+        {"save", [this](A a) { saveTo(a.section("while ", 0, 0), a.section("while ", 1)); }},
 
-        {"windows", [&] { sayWindows(); }},
-        {"rows", [&] { say(flatten(window())); }},
-        {"buttons", [&] { sayButtons(); }},
-        {"clipped", [&] { say(clipped(window())); }},
-        {"property", [&] { sayProperty(part(" ", 0, -2), part(" ", -1)); }},
-        {"question", [&] { sayQuestion(); }},
-        {"file", [&] { say(('|' + QString(contentOf(file)).replace('\n', "\n|")).split('\n')); }},
-        {"log", [&] { say(m_log->takeLog().filter(a).replaceInStrings(m_host->folder(), "")); }},
-        {"references", [&] { sayReferences(); }},
-        {"cost", [&] { sayCost(a); }},
-        {"get", [&] { sayAnswer(part(", ", 0, 0), part(", ", 1)); }},
-        {"value", [&] { sayValue(part(", ", 0, 0), part(", ", 1)); }},
-        {"load", [&] { sayStore(store()->LoadFile(a)); }},
-        {"xml", [&] { m_host->write("test.xml", a.toLatin1()); act("load test.xml"); }},
+        {"windows", [this](A) { sayWindows(); }},
+        {"rows", [this](A) { say(flatten(window())); }},
+        {"buttons", [this](A) { sayButtons(); }},
+        {"clipped", [this](A) { say(clipped(window())); }},
+        {"property", [this](A a) { sayProperty(a.section(" ", 0, -2), a.section(" ", -1)); }},
+        {"question", [this](A) { sayQuestion(); }},
+        {"file", [this](A a) { sayFile(a); }},
+        {"log", [this](A a) { say(m_log->takeLog().filter(a).replaceInStrings(file(""), "")); }},
+        {"references", [this](A) { sayReferences(); }},
+        {"cost", [this](A a) { sayCost(a); }},
+        {"get", [this](A a) { sayAnswer(a.section(", ", 0, 0), a.section(", ", 1)); }},
+        {"value", [this](A a) { sayValue(a.section(", ", 0, 0), a.section(", ", 1)); }},
+        {"load", [this](A a) { sayStore(store()->LoadFile(a)); }},
+        {"xml", [this](A a) { write("test.xml", a.toLatin1()); act("load test.xml"); }},
     };
     // clang-format on
-    const auto command = commands.find(line.section(' ', 0, 0));
-    if (command == commands.end())
+}
+
+void ScriptTest::act(const QString &line)
+{
+    const auto command = m_commands.find(line.section(' ', 0, 0));
+    if (command == m_commands.end())
         return say("no such command");
-    command->second();
+    command->second(unescape(line.section(' ', 1)));
 }
 
 /// The plug-ins that the host has: "KEY=VALUE;..." for ours, "failing" for the same, "gone" once
@@ -395,9 +403,9 @@ void ScriptTest::swap()
 }
 
 /// \a meanwhile is "file dialog: COMMAND" or "message box: COMMAND", empty for nothing.
-void ScriptTest::saveTo(const QString &file, QString meanwhile)
+void ScriptTest::saveTo(const QString &name, QString meanwhile)
 {
-    const QString path = file.isEmpty() ? QString() : m_host->folder() + file;
+    const QString path = name.isEmpty() ? QString() : file(name.trimmed());
     const auto act = [&](const char *dialog) {
         const bool now = meanwhile.startsWith(dialog);
         if (now)
@@ -438,6 +446,13 @@ void ScriptTest::sayButtons()
         end = place.right() + 1;
     }
     say(row.join(' ') + ' ' + QString::number(window()->width() - end));
+}
+
+/// Each line behind a '|', so that none looks empty.
+void ScriptTest::sayFile(const QString &name)
+{
+    for (const QString &line : QString(contentOf(file(name))).split('\n'))
+        say('|' + line);
 }
 
 void ScriptTest::sayProperty(const QString &object, const QString &property)
@@ -504,14 +519,17 @@ void ScriptTest::sayStore(unsigned int result)
     }
 }
 
-/// How many references can be given back until query layer and store end. Leaves none.
+/// Takes two references to query layer and store, and then says how many can be given back. None
+/// are left, so the plug-in must have given back its own.
 void ScriptTest::sayReferences()
 {
+    Logic::GetInstance();
     int count = 0;
-    for (const QPointer<Logic> ending(logic()); ending; ++count)
+    for (const QPointer<Logic> ending(Logic::GetInstance()); ending; ++count)
         Logic::Destroy();
     say("query layer " + QString::number(count));
-    store();
+    Store::GetInstance();
+    Store::GetInstance();
     m_log->takeLog();
     for (count = 0; m_log->takeLog().filter("~DiagnosticsConfigParse").isEmpty() && count < 9;
          ++count)

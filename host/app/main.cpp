@@ -106,8 +106,7 @@ QString configurationSum()
     return QStringLiteral("SHA-256 ") + QLatin1String(hash.result().toHex());
 }
 
-QByteArray report(const QList<DiagnosticsPage> &pages, const ModemSource &modem,
-                  const Options &options)
+QByteArray report(const QList<ShownPage> &pages, const ModemSource &modem, const Options &options)
 {
     Report report(pages);
     if (options.print)

@@ -15,12 +15,10 @@
 #include <QScreen>
 #include <QSettings>
 
-#include <memory>
-
 namespace {
 
 QString s_pluginLibraryPath;
-std::unique_ptr<QSettings> s_settings;
+QString s_settingsFile;
 
 /// A message box that can always be closed, and where closing it presses no button.
 class MessageBox : public QMessageBox
@@ -57,8 +55,7 @@ void HostCore::setPluginLibraryPath(const QString &path)
 
 void HostCore::setSettingsFile(const QString &fileName)
 {
-    s_settings =
-        fileName.isNull() ? nullptr : std::make_unique<QSettings>(fileName, QSettings::IniFormat);
+    s_settingsFile = fileName;
 }
 
 QString CommonUtils::GetPluginLibraryPath()
@@ -68,12 +65,11 @@ QString CommonUtils::GetPluginLibraryPath()
 
 QString CommonUtils::GetSettings(const QString &group, const QString &key)
 {
-    if (!s_settings)
+    if (s_settingsFile.isNull())
         return QString();
+    const QSettings settings(s_settingsFile, QSettings::IniFormat);
     // A text with commas is read as a list.
-    return s_settings->value(group + QLatin1Char('/') + key)
-        .toStringList()
-        .join(QLatin1String(", "));
+    return settings.value(group + QLatin1Char('/') + key).toStringList().join(QLatin1String(", "));
 }
 
 int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString caption, QString text,

@@ -230,7 +230,7 @@ private:
 void ScriptTest::init()
 {
     setUp();
-    m_host->write("host.ini", "[version]\nversion=2.1\n");
+    write("host.ini", "[version]\nversion=2.1\n");
     HostCore::setSettingsFile(path("host.ini"));
     m_calls.clear();
     m_quiet = false;

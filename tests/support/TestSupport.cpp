@@ -66,7 +66,7 @@ QString unescape(QString text)
 {
     text.replace("\\n", "\n");
     for (int at = text.indexOf('\\'); at >= 0; at = text.indexOf('\\', at + 1)) {
-        const int digits = text.midRef(at + 1, 1) == "x" ? 2 : 4;
+        const int digits = text.mid(at + 1, 1) == "x" ? 2 : 4;
         text.replace(at, 2 + digits, QChar(text.mid(at + 2, digits).toUShort(nullptr, 16)));
     }
     const QRegularExpression run("(.)\\{(\\d+)\\}");

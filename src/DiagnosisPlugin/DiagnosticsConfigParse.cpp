@@ -212,7 +212,7 @@ void DiagnosticsConfigParse::populateHash(QCoreXmlStreamReader &reader)
             return;
         m_strCustomizeActive = QLatin1String("false");
         m_strValue = reader.readElementText();
-        if (m_pHashCustomization)
+        if (m_pHashCustomization && !reader.hasError())
             m_pHashCustomization->insert(reader.name().toString(), m_strValue);
     }
 }

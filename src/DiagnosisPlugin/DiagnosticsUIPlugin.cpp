@@ -485,7 +485,10 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
         return Missing;
     }
     QWidget *page = tab ? m_ptabWidgetDiag->findChild<QWidget *>(pageName(*tab)) : nullptr;
-    QFormLayout *layout = new (std::nothrow) QFormLayout(page);
+    // Tabs with the same name have one page between them, and its form.
+    QFormLayout *layout = page ? qobject_cast<QFormLayout *>(page->layout()) : nullptr;
+    if (!layout)
+        layout = new (std::nothrow) QFormLayout(page);
     if (!page || !layout) {
         qDebug("%s: %s: %s: Memory Allocation Failed", LOG_AT);
         delete layout;

@@ -19,7 +19,7 @@
 
 namespace {
 
-const int mostArguments = 6; ///< of a log line
+const int mostArguments = 3; ///< of a log line, behind time, source and function
 
 template <typename Out, VELT_ERROR (*function)(Out *)>
 void ask()
@@ -119,11 +119,12 @@ void note(QtMsgType, const QMessageLogContext &, const QString &message)
     callsThen.push_back(ModemControl::recordedCalls().size());
 }
 
-/// The format of a log line, all conversions turned to "%s", and what its lines look like.
+/// The format of a log line, and what its lines look like.
 struct Format
 {
     QByteArray text;
     QRegularExpression lines;
+    QByteArray kinds; ///< of the conversions, by the letter that each begins with
 };
 
 /// Those of the plug-in's sources.
@@ -140,39 +141,23 @@ QList<Format> readFormats()
             qFatal("cannot read %s", qPrintable(name));
         auto found = call.globalMatch(QString::fromLatin1(file.readAll()));
         while (found.hasNext()) {
-            const QString text = found.next()
-                                     .captured(1)
-                                     .remove(seam)
-                                     .remove(QLatin1Char('"'))
-                                     .replace(conversion, QStringLiteral("%s"));
-            QStringList literals = text.split(QStringLiteral("%s"));
-            for (QString &literal : literals)
-                literal = QRegularExpression::escape(literal);
-            formats.append({text.toLatin1(), QRegularExpression(QRegularExpression::anchoredPattern(
-                                                 literals.join(QStringLiteral("(.*?)"))))});
+            const QString text = found.next().captured(1).remove(seam).remove(QLatin1Char('"'));
+            QString lines = QRegularExpression::escape(text);
+            QByteArray kinds;
+            auto conversions = conversion.globalMatch(text);
+            while (conversions.hasNext()) {
+                const QString kind = conversions.next().captured(1);
+                kinds.append(kind.at(0).toLatin1());
+                const QString escaped = QRegularExpression::escape(QLatin1Char('%') + kind);
+                lines.replace(lines.indexOf(escaped), escaped.size(),
+                              kinds.endsWith('s') ? QStringLiteral("(.*?)")
+                                                  : QStringLiteral("(-?\\d+)"));
+            }
+            formats.append({text.toLatin1(),
+                            QRegularExpression(QRegularExpression::anchoredPattern(lines)), kinds});
         }
     }
     return formats;
-}
-
-/// The line as its format and the texts of its arguments.
-void split(const QString &line, QByteArray *format, QList<QByteArray> *arguments)
-{
-    static const QList<Format> formats = readFormats();
-    for (const Format &known : formats) {
-        // The most literal of those that fit.
-        const QRegularExpressionMatch match = known.text.size() > format->size()
-                                                  ? known.lines.match(line)
-                                                  : QRegularExpressionMatch();
-        if (!match.hasMatch())
-            continue;
-        *format = known.text;
-        arguments->clear();
-        for (const QString &argument : match.capturedTexts().mid(1))
-            arguments->append(argument.toLatin1());
-    }
-    if (format->isEmpty())
-        qFatal("no format of the line \"%s\"", qPrintable(line));
 }
 
 void (*callNamed(const std::string &name))()
@@ -207,6 +192,59 @@ QStringList withoutTimes(QStringList lines)
 
 } // namespace
 
+/// The line as its format and arguments.
+void Conversation::split(const QString &line, Step *step)
+{
+    static const QList<Format> formats = readFormats();
+    for (const Format &known : formats) {
+        // The most literal of those that fit.
+        const QRegularExpressionMatch match = known.text.size() > step->format.size()
+                                                  ? known.lines.match(line)
+                                                  : QRegularExpressionMatch();
+        if (!match.hasMatch() || known.kinds.size() < 3)
+            continue;
+        step->format = known.text;
+        step->texts.clear();
+        step->arguments.clear();
+        for (int index = 0; index < known.kinds.size(); ++index) {
+            const QByteArray text = match.captured(index + 1).toLatin1();
+            if (index < 3)
+                step->texts.append(text);
+            else
+                step->arguments.append({known.kinds.at(index), text, text.toLong()});
+        }
+    }
+    if (step->format.isEmpty())
+        qFatal("no format of the line \"%s\"", qPrintable(line));
+}
+
+/// Writes a line with the arguments that were taken along.
+template <typename... Arguments>
+void Conversation::log(std::integral_constant<int, 0>, const Step &step, Arguments... arguments)
+{
+    qDebug(step.format.constData(), LogTime().text(), step.texts.at(1).constData(),
+           step.texts.at(2).constData(), arguments...);
+}
+
+/// Takes the next argument along, by its type, as long as there is one and room for it.
+template <int size, typename... Arguments>
+void Conversation::log(std::integral_constant<int, size>, const Step &step, Arguments... arguments)
+{
+    const int taken = sizeof...(Arguments);
+    const std::integral_constant<int, size - 1> room;
+    if (taken == step.arguments.size())
+        return log(std::integral_constant<int, 0>(), step, arguments...);
+    const Argument &next = step.arguments.at(taken);
+    switch (next.kind) {
+    case 's':
+        return log(room, step, arguments..., next.text.constData());
+    case 'l':
+        return log(room, step, arguments..., next.number);
+    default:
+        return log(room, step, arguments..., static_cast<int>(next.number));
+    }
+}
+
 Conversation Conversation::record(const std::function<void()> &action)
 {
     const std::vector<ModemControl::Call> calls = watch(action);
@@ -214,34 +252,35 @@ Conversation Conversation::record(const std::function<void()> &action)
     std::size_t made = 0;
     const auto addCalls = [&](std::size_t upTo) {
         for (; made < upTo; ++made)
-            conversation.m_steps.push_back({callNamed(calls[made].function), {}, {}});
+            conversation.m_steps.push_back({callNamed(calls[made].function), {}, {}, {}});
     };
     for (int index = 0; index < lines.size(); ++index) {
         addCalls(callsThen[static_cast<std::size_t>(index)]);
-        Step step = {nullptr, {}, {}};
-        split(lines.at(index), &step.format, &step.arguments);
-        while (step.arguments.size() < mostArguments)
-            step.arguments.append(QByteArray());
+        Step step = {nullptr, {}, {}, {}};
+        split(lines.at(index), &step);
         conversation.m_steps.push_back(step);
     }
     addCalls(calls.size());
 
     const QStringList said = withoutTimes(lines);
-    if (watch([&] { conversation.repeat(); }).size() != calls.size() || withoutTimes(lines) != said)
-        qFatal("the conversation by hand is not that of the plug-in");
+    const bool sameCalls = watch([&] { conversation.repeat(); }).size() == calls.size();
+    const QStringList repeated = withoutTimes(lines);
+    for (int index = 0; index < qMax(said.size(), repeated.size()); ++index) {
+        if (said.value(index) != repeated.value(index))
+            qFatal("by hand \"%s\" is not \"%s\"", qPrintable(repeated.value(index)),
+                   qPrintable(said.value(index)));
+    }
+    if (!sameCalls)
+        qFatal("the calls by hand are not those of the plug-in");
     return conversation;
 }
 
 void Conversation::repeat() const
 {
     for (const Step &step : m_steps) {
-        if (step.call) {
+        if (step.call)
             step.call();
-            continue;
-        }
-        const auto argument = [&step](int index) { return step.arguments.at(index).constData(); };
-        // Those that the format does not ask for are passed over.
-        qDebug(step.format.constData(), LogTime().text(), argument(1), argument(2), argument(3),
-               argument(4), argument(5));
+        else
+            log(std::integral_constant<int, mostArguments>(), step);
     }
 }

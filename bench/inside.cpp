@@ -25,6 +25,7 @@
 #include <QTemporaryDir>
 #include <QTime>
 
+#include <cstdio>
 #include <memory>
 
 /// In front of libcore's: the box would wait for a user.
@@ -190,7 +191,13 @@ public:
         for (int index = 1; index < tabs->count(); ++index)
             m_conversations.append(Conversation::record([=] { tabs->setCurrentIndex(index); }));
         m_content = std::make_unique<WindowContent>(tabs->window());
-        m_saving = Conversation::record([this] { m_plugin.saveToFile(m_export); });
+        for (const TabDetails &tab : *DiagnosticsConfigParse::GetInstance()->GetTabInformation()) {
+            for (const TabItem &item : *tab.items)
+                m_readings.append(Conversation::record([&] {
+                    QString value;
+                    m_plugin.getValueLabelVal(tab.name, item.name, &value);
+                }));
+        }
         close();
     }
     ~Rounds()
@@ -227,18 +234,23 @@ public:
 
     void saveByHand()
     {
-        m_saving.repeat();
+        for (const char *function : {"saveToFile", "GetTabInformation"})
+            qDebug("%s: %s: %s: called", LOG_AS(function));
         QFile file(m_export);
         if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
             qFatal("cannot write %s", qPrintable(m_export));
         QTextStream stream(&file);
         setUtf8(stream);
+        auto reading = m_readings.cbegin();
         for (const WindowContent::Tab &tab : m_content->tabs) {
             stream << tab.title << endLine;
-            for (const WindowContent::Row &row : tab.rows)
+            for (const WindowContent::Row &row : tab.rows) {
+                reading++->repeat();
                 stream << row.caption << " " << row.value << endLine;
+            }
             stream << endLine;
         }
+        qDebug("%s: %s: %s: file writing success", LOG_AS("saveToFile"));
     }
 
 private:
@@ -247,7 +259,7 @@ private:
     QWidget m_parent;
     DiagnosticsUIPlugin m_plugin;
     QVector<Conversation> m_conversations;
-    Conversation m_saving;
+    QVector<Conversation> m_readings; ///< of each row
     std::unique_ptr<WindowContent> m_content;
     std::unique_ptr<WindowByHand> m_byHand;
 };
@@ -378,15 +390,19 @@ std::vector<Measurement> measurements()
     };
 }
 
-void dropMessage(QtMsgType, const QMessageLogContext &, const QString &) {}
+/// The lines are written as ever, to nowhere.
+void dropLog(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type != QtDebugMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(message));
+}
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
     QApplication application(argc, argv);
-    // The lines are written as ever, to nowhere.
-    qInstallMessageHandler(dropMessage);
+    qInstallMessageHandler(dropLog);
     std::string error;
     if (!ModemControl::attach(BENCH_DATA_DIR "/modems/wcdma.ini", &error))
         qFatal("%s", error.c_str());

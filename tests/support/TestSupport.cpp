@@ -76,16 +76,24 @@ QString unescape(QString text)
     return text;
 }
 
-void addRows(const char *fileName, const char *section)
+QStringList section(const char *fileName, const char *name)
 {
-    QTest::addColumn<QStringList>("fields");
+    QStringList lines;
     bool inSection = false;
     for (const QByteArray &line : contentOf(fileName).replace("\n    ", " | ").split('\n')) {
         if (line.startsWith('['))
-            inSection = line == '[' + QByteArray(section) + ']';
+            inSection = line == '[' + QByteArray(name) + ']';
         else if (inSection && !line.isEmpty() && !line.startsWith('#'))
-            QTest::newRow(line.constData()) << unescape(QString::fromLatin1(line)).split(" | ");
+            lines.append(QString::fromLatin1(line));
     }
+    return lines;
+}
+
+void addRows(const char *fileName, const char *name)
+{
+    QTest::addColumn<QStringList>("fields");
+    for (const QString &line : section(fileName, name))
+        QTest::newRow(line.toLatin1()) << unescape(line).split(" | ");
 }
 
 QStringList list(const char *texts)
@@ -227,7 +235,7 @@ QStringList save(QPushButton *button, const QString &path,
             dialog->done(QDialog::Accepted); // past the question to overwrite
         }
     });
-    answers.start(10);
+    answers.start(1);
     button->click();
     return boxes;
 }

@@ -17,10 +17,13 @@ class QWidget;
 /// window as text.
 namespace TestSupport {
 
-/// Adds a row of test data for each line of a section, "[name]", of a file: its fields, which " | "
-/// separates or which have indented lines of their own, without any comment between, in the one
-/// column "fields". Fields may have escapes.
-void addRows(const char *fileName, const char *section);
+/// The lines of a section, "[name]", of a file, without comments; indented lines follow the one
+/// before them behind " | ".
+QStringList section(const char *fileName, const char *name);
+
+/// Adds a row of test data for each line of a section: its fields, which " | " separates, in the
+/// one column "fields". Fields may have escapes.
+void addRows(const char *fileName, const char *name);
 
 /// The content of a file, which must be readable.
 QByteArray contentOf(const QString &path);

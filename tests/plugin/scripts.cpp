@@ -20,7 +20,7 @@
 //   save [FILE] [while DIALOG: COMMAND]                    no file cancels
 //   swap                                                   hides the shown window, shows the hidden
 // What there is to see
-//   windows | rows | buttons | clipped | property OBJECT NAME | question
+//   windows | rows | buttons | tab-order | clipped | caption ROW | property OBJECT NAME | question
 //   file NAME | log [PART] | references | cost ACTION      of docs/sdk-calls.md
 //   get GETTER[, KEY=VALUE;...] | value TAB, ROW | load FILE | xml CONTENT
 
@@ -35,10 +35,12 @@
 #include "interfaces/INetConnectSetting.h"
 #include "interfaces/IStatusBarUI.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -180,6 +182,8 @@ private:
     void saveTo(const QString &name, QString meanwhile);
     void sayWindows();
     void sayButtons();
+    void sayTabOrder();
+    void sayCaption(const QString &row);
     void sayFile(const QString &name);
     void sayProperty(const QString &object, const QString &property);
     void sayQuestion();
@@ -330,6 +334,8 @@ void ScriptTest::initTestCase()
         {"clipped", [this](A) { say(clipped(window())); }},
         {"property", [this](A a) { sayProperty(a.section(" ", 0, -2), a.section(" ", -1)); }},
         {"question", [this](A) { sayQuestion(); }},
+        {"tab-order", [this](A) { sayTabOrder(); }},
+        {"caption", [this](A a) { sayCaption(a); }},
         {"file", [this](A a) { sayFile(a); }},
         {"log", [this](A a) { say(m_log->takeLog().filter(a).replaceInStrings(file(""), "")); }},
         {"references", [this](A) { sayReferences(); }},
@@ -449,6 +455,28 @@ void ScriptTest::sayButtons()
 }
 
 /// Each line behind a '|', so that none looks empty.
+/// What the Tab key goes through, beginning with the focus.
+void ScriptTest::sayTabOrder()
+{
+    QStringList order;
+    const QWidget *widget = window()->focusWidget();
+    do {
+        if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus)
+            order.append(widget->objectName().section('_', 1));
+        widget = widget->nextInFocusChain();
+    } while (widget != window()->focusWidget());
+    say(order.join(", "));
+}
+
+/// What assistive technology is told the value of a row is of.
+void ScriptTest::sayCaption(const QString &row)
+{
+    auto *value = window()->findChild<QLabel *>("DiagnosticsUIPlugin_label" + row + "Value");
+    for (const auto &relation :
+         QAccessible::queryAccessibleInterface(value)->relations(QAccessible::Label))
+        say(relation.first->text(QAccessible::Name) + ": " + value->text());
+}
+
 void ScriptTest::sayFile(const QString &name)
 {
     for (const QString &line : QString(contentOf(file(name))).split('\n'))
@@ -460,9 +488,10 @@ void ScriptTest::sayProperty(const QString &object, const QString &property)
     const QObject *found = object == "window"
                                ? window()
                                : window()->findChild<QObject *>("DiagnosticsUIPlugin_" + object);
-    QString text;
-    QDebug(&text) << (found ? found->property(qPrintable(property)) : QVariant("no such object"));
-    say(text.trimmed());
+    const QVariant value = found ? found->property(qPrintable(property)) : QVariant();
+    const QSize size = value.toSize();
+    say(size.isValid() ? QString("%1 x %2").arg(size.width()).arg(size.height())
+                       : QString::number(value.toInt()));
 }
 
 /// What an open file dialog asks.
@@ -470,7 +499,7 @@ void ScriptTest::sayQuestion()
 {
     const auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
     QString text;
-    QDebug(&text) << dialog->nameFilters()
+    QDebug(&text) << dialog->nameFilters().join(", ")
                   << QDir::home().relativeFilePath(dialog->directory().path())
                   << dialog->findChild<QLineEdit *>()->text() << dialog->acceptMode()
                   << dialog->fileMode() << dialog->options() << dialog->defaultSuffix();

@@ -12,7 +12,6 @@
 
 #include <QLibrary>
 #include <QMetaMethod>
-#include <QPluginLoader>
 #include <QProcess>
 #include <QRect>
 #include <QWidget>
@@ -50,7 +49,6 @@ private Q_SLOTS:
     void slotsOfTheTables();
     void metaObject();
     void eventsFromAnotherThread();
-    void loadAndUnload();
     void unloadAfterTheWindowClosed();
 
 private:
@@ -245,24 +243,6 @@ void ModuleTest::eventsFromAnotherThread()
     QVERIFY(ModemControl::waitForEvents(10000));
     settle();
     QCOMPARE(m_log->takeLog(), QStringList());
-}
-
-void ModuleTest::loadAndUnload()
-{
-    delete instance();
-    QVERIFY(m_library.unload());
-    for (int round = 0; round < 20; ++round) {
-        QPluginLoader loader{MODULE_FILE};
-        auto *plugin = qobject_cast<IUIPlugin *>(loader.instance());
-        QVERIFY(plugin);
-        QCOMPARE(plugin->Init(), 1);
-        if (round % 2)
-            plugin->OnDestroy();
-        ModemControl::raiseEvent(6000);
-        QVERIFY(loader.unload()); // deletes the object
-    }
-    QVERIFY(ModemControl::waitForEvents(10000));
-    QVERIFY(m_library.load());
 }
 
 void ModuleTest::unloadAfterTheWindowClosed()

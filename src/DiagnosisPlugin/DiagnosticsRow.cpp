@@ -29,8 +29,10 @@ void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowNam
                             QStyle::visualAlignment(label->layoutDirection(), label->alignment()));
     caption->setObjectName(captionName(rowName));
     value->setObjectName(valueName(rowName));
-    // Tells assistive technology what the value is of.
-    caption->setBuddy(value);
+    // Tells assistive technology what the value is of. A caption with a buddy shows no '&', but
+    // takes the letter behind it for a shortcut.
+    if (!caption->text().contains(QLatin1Char('&')))
+        caption->setBuddy(value);
     // A text from the air must not be read as markup.
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);

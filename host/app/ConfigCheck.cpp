@@ -55,7 +55,7 @@ const Consequence Consequences[] = {
     {"customize/simmsgprompt",    "Of a block the first one is read, with all its blanks."},
     {"settings",                  "It replaces the earlier setting."},
     {"tabs",                      "The rows of all tabs of one name go to one page."},
-    {"rows",                      "Of the rows of one name only one is filled."},
+    {"rows",                      "Of the rows of one name that are shown, only one is filled."},
     {"devices",                   "It replaces the earlier wording."},
 };
 // clang-format on
@@ -176,6 +176,7 @@ void Check::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
     const xmlSAXHandlerPtr ownHandler = m_parser->sax;
     m_parser->sax = &handler;
     m_parser->userData = this;
+    m_parser->replaceEntities = 1; // "&amp;" and its like: a document type was refused before
     const xmlSchemaSAXPlugPtr plug =
         validator ? xmlSchemaSAXPlug(validator, &m_parser->sax, &m_parser->userData) : nullptr;
     xmlParseDocument(m_parser);

@@ -64,6 +64,7 @@ bool Options::needNoScreen(int count, const char *const *arguments)
 
 bool Options::parse(const QStringList &arguments, QString *error)
 {
+    error->clear();
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(Description));
     for (const Known &option : KnownOptions)
@@ -109,6 +110,8 @@ bool Options::parse(const QStringList &arguments, QString *error)
 
     if (files.size() > int(report))
         *error = QStringLiteral("unexpected argument \"%1\"").arg(files.constLast());
+    else if (int(!configFile.isNull()) + int(listModems) + int(open) > 1)
+        *error = QStringLiteral("--check-config and --list-modems go alone");
     else if (report && shows)
         *error = QStringLiteral("--report goes without --open, --tab, --print and --screenshot");
     else if (!report && (mask || isSet("format")))

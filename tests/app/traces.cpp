@@ -50,11 +50,13 @@ void TracesTest::initTestCase()
         QStringLiteral("strace"),
         QStringLiteral("-f -qq -e signal=none -e trace=%network,open,openat,openat2,creat,"
                        "mknod,mknodat,mkdir,mkdirat,rename,renameat,renameat2,link,linkat,"
-                       "symlink,symlinkat -o %1 -E LD_PRELOAD=%2 "
-                       "%3 --modem wcdma --open --log %4/log")
-            .arg(m_trace.fileName(), QStringLiteral(SAVE_REPORT), QStringLiteral(HOST_PROGRAM),
-                 m_root.path())
-            .split(QLatin1Char(' ')));
+                       "symlink,symlinkat")
+                .split(QLatin1Char(' ')) +
+            QStringList{QStringLiteral("-o"), m_trace.fileName(), QStringLiteral("-E"),
+                        QStringLiteral("LD_PRELOAD=" SAVE_REPORT), QStringLiteral(HOST_PROGRAM),
+                        QStringLiteral("--modem"), QStringLiteral("wcdma"),
+                        QStringLiteral("--open"), QStringLiteral("--log"),
+                        m_root.path() + QStringLiteral("/log")});
     QVERIFY(process.waitForFinished(60000));
     QCOMPARE(process.exitCode(), 0);
     QCOMPARE(process.readAll(), QByteArray());

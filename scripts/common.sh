@@ -19,7 +19,7 @@ install_packages() {
             exit 1
         }
     fi
-    echo "Installing ${missing[*]}"
+    echo "Installing ${missing[*]}" >&2
     "${as_root[@]}" apt-get update -qq
     "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
@@ -31,8 +31,10 @@ build_packages=(
     fonts-wqy-microhei # for Chinese
     g++
     libxml2-dev
+    libqt5svg5 # for the window's icon
     ninja-build
     qtbase5-dev
+    qttranslations5-l10n # for the toolkit's own dialogs
     qttools5-dev
     qttools5-dev-tools
 )

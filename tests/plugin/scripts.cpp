@@ -454,7 +454,6 @@ void ScriptTest::sayButtons()
     say(row.join(' ') + ' ' + QString::number(window()->width() - end));
 }
 
-/// Each line behind a '|', so that none looks empty.
 /// What the Tab key goes through, beginning with the focus.
 void ScriptTest::sayTabOrder()
 {
@@ -477,6 +476,7 @@ void ScriptTest::sayCaption(const QString &row)
         say(relation.first->text(QAccessible::Name) + ": " + value->text());
 }
 
+/// Each line behind a '|', so that none looks empty.
 void ScriptTest::sayFile(const QString &name)
 {
     for (const QString &line : QString(contentOf(file(name))).split('\n'))

@@ -75,7 +75,7 @@ struct Life
     QString window;
     QStringList shown;     ///< rows after a visit of each tab
     QStringList refreshed; ///< rows after a refresh of each tab
-    QString saved;         ///< the report
+    QStringList saved;     ///< the report's lines, but for empty ones
     QStringList around;    ///< title, buttons, and what was said of the saving
     QStringList log;       ///< lines that tell of faults
     QStringList calls;
@@ -127,23 +127,16 @@ QString printable(const QString &text)
     return printed;
 }
 
-/// The report that a window with these rows should save.
-QString reportOf(const QStringList &rows)
+/// The rows as the lines that the report has for them.
+QStringList reported(QStringList rows)
 {
-    QString report;
-    bool tabbed = false;
-    for (QString row : rows) {
-        if (row.startsWith('[')) {
-            report += QString(tabbed ? "\n" : "") + row.mid(1, row.size() - 2);
-            tabbed = true;
-        } else {
-            report += row.replace(row.indexOf(" = "), 3, " ");
-            if (!tabbed)
-                report += '\n';
-        }
-        report += '\n';
+    for (QString &row : rows) {
+        if (row.startsWith('['))
+            row = row.mid(1, row.size() - 2);
+        else
+            row.replace(row.indexOf(" = "), 3, " ");
     }
-    return tabbed ? report + '\n' : report;
+    return rows.join('\n').split('\n', Qt::SkipEmptyParts);
 }
 
 QStringList without(QStringList lines, const QStringList &others)
@@ -219,7 +212,7 @@ void SweepTest::use(Life &life)
             life.around.append(quoted.arg(said));
         QFile report(path("report"));
         if (report.open(QIODevice::ReadOnly))
-            life.saved = QString::fromUtf8(report.readAll());
+            life.saved = QString::fromUtf8(report.readAll()).split('\n', Qt::SkipEmptyParts);
     }
     button("Cancel")->click();
     settle();
@@ -304,7 +297,7 @@ void SweepTest::addUsual(const QByteArray &modem, const QByteArray &configuratio
     for (const QString &row : m_usual.around + m_usual.shown)
         m_table.append("    " + row);
     QCOMPARE(m_usual.refreshed, m_usual.shown);
-    QCOMPARE(m_usual.saved, reportOf(m_usual.shown));
+    QCOMPARE(m_usual.saved, reported(m_usual.shown));
     QCOMPARE(m_usual.log, QStringList());
 }
 
@@ -318,10 +311,11 @@ void SweepTest::add(const QString &name, const Fault &fault)
         columns.append(differences(life.shown, m_usual.shown));
         if (life.refreshed != life.shown)
             columns.append("refreshed: " + differences(life.refreshed, m_usual.shown));
-        const QString report = reportOf(life.refreshed);
-        if (!life.saved.isNull() && life.saved != report)
-            columns.append("saved: " +
-                           without(life.saved.split('\n'), report.split('\n')).join(", "));
+        const QStringList report = reported(life.refreshed);
+        if (life.saved.isEmpty() && !report.isEmpty())
+            columns.append("not saved");
+        else if (life.saved != report)
+            columns.append("saved: " + without(life.saved, report).join(", "));
         if (life.around != m_usual.around)
             columns.append("also: " + differences(life.around, m_usual.around));
     }

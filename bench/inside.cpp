@@ -385,7 +385,7 @@ std::vector<Measurement> measurements()
         {"one getter", "ns", 1.1, 0, getter, getterByHand},
         {"visit every tab", "us", 1.15, 50, visit, visitByHand},
         {"open the window", "us", 1.15, 50, open, openByHand},
-        {"export", "us", 1.15, 50, save, saveByHand},
+        {"export", "us", 1.15, 300, save, saveByHand},
         {"SDK event to slot", "ns", 1.2, 50, events, eventsByHand},
     };
 }

@@ -12,8 +12,8 @@
 
 /// The current local time as "hh:mm:ss:zzz", written digit by digit. The toolkit's would cost more
 /// than all the rest of a log line: its current time looks each time whether the zone's file has
-/// changed, and its text goes through a format-string parser. Here the zone is that of the process's
-/// start, or of the toolkit's last look.
+/// changed, and its text goes through a format-string parser. Here the zone is that of the
+/// process's start, or of the toolkit's last look.
 class LogTime
 {
 public:

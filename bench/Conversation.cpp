@@ -4,7 +4,7 @@
 #include "Conversation.h"
 
 #include "DiagnosticsLog.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "sdk/VeltDevice.h"
 #include "sdk/VeltNetwork.h"
 #include "sdk/VeltPhonebook.h"
@@ -116,7 +116,7 @@ std::vector<std::size_t> callsThen; ///< how many calls there were before each l
 void note(QtMsgType, const QMessageLogContext &, const QString &message)
 {
     lines.append(message);
-    callsThen.push_back(ModemControl::recordedCalls().size());
+    callsThen.push_back(SdkControl::recordedCalls().size());
 }
 
 /// The format of a log line, and what its lines look like.
@@ -170,16 +170,16 @@ void (*callNamed(const std::string &name))()
 }
 
 /// What an action logs and calls.
-std::vector<ModemControl::Call> watch(const std::function<void()> &action)
+std::vector<SdkControl::Call> watch(const std::function<void()> &action)
 {
     lines.clear();
     callsThen.clear();
-    ModemControl::startRecording();
+    SdkControl::startRecording();
     const QtMessageHandler previous = qInstallMessageHandler(note);
     action();
     qInstallMessageHandler(previous);
-    const std::vector<ModemControl::Call> calls = ModemControl::recordedCalls();
-    ModemControl::stopRecording();
+    const std::vector<SdkControl::Call> calls = SdkControl::recordedCalls();
+    SdkControl::stopRecording();
     return calls;
 }
 
@@ -247,7 +247,7 @@ void Conversation::log(std::integral_constant<int, size>, const Step &step, Argu
 
 Conversation Conversation::record(const std::function<void()> &action)
 {
-    const std::vector<ModemControl::Call> calls = watch(action);
+    const std::vector<SdkControl::Call> calls = watch(action);
     Conversation conversation;
     std::size_t made = 0;
     const auto addCalls = [&](std::size_t upTo) {

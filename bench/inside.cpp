@@ -13,9 +13,10 @@
 
 #include "HostCore.h"
 #include "HostPlugins.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "core/CommonUtils.h"
 #include "sdk/VeltDevice.h"
+#include "simulated/SimulatedModem.h"
 
 #include <QApplication>
 #include <QDir>
@@ -304,7 +305,7 @@ BareObject *BareObject::sender = nullptr;
 void raise(const std::function<bool()> &allReached)
 {
     for (int event = 0; event < eventsAtOnce; ++event)
-        ModemControl::raiseEvent(VELT_EVENT_DEV_ARRIVAL);
+        SdkControl::raiseEvent(VELT_EVENT_DEV_ARRIVAL);
     while (!allReached())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
@@ -404,10 +405,12 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     qInstallMessageHandler(dropLog);
     std::string error;
-    if (!ModemControl::attach(BENCH_DATA_DIR "/modems/wcdma.ini", &error))
+    const auto modem = SimulatedModem::load(BENCH_DATA_DIR "/modems/wcdma.ini", &error);
+    if (!modem)
         qFatal("%s", error.c_str());
     // The mode that the first visit of Network status leaves the device in.
-    ModemControl::setValue("network/csReportMode", "2");
+    SdkControl::attach(modem);
+    modem->setValue("network/csReportMode", "2");
     HostCore::setPluginLibraryPath(QStringLiteral(BENCH_LIBRARY_DIR));
     HostCore::setSettingsFile(QStringLiteral(BENCH_DATA_DIR "/host.ini"));
     HostCore::setLanguage(QStringLiteral(BENCH_DATA_DIR "/translations"), QStringLiteral("en"));

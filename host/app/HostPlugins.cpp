@@ -3,8 +3,7 @@
 
 #include "HostPlugins.h"
 
-#include "ModemControl.h"
-#include "ModemSource.h"
+#include "SdkControl.h"
 
 namespace {
 
@@ -14,9 +13,10 @@ enum Result
     Failure = 1
 };
 
-int readValue(const char *key, QString &value)
+int readText(TextValue wanted, QString &value)
 {
-    const QString text = ModemControl::isPlugged() ? ModemSource::value(key) : QString();
+    const QString text =
+        SdkControl::isPlugged() ? QString::fromStdString(SdkControl::text(wanted)) : QString();
     if (text.isEmpty())
         return Failure;
     value = text;
@@ -27,24 +27,24 @@ int readValue(const char *key, QString &value)
 
 int StatusBar::IGetServiceName(QString &name)
 {
-    return readValue("network/operatorName", name);
+    return readText(TextValue::ServiceName, name);
 }
 
 int StatusBar::IGetNetworkType(QString &type)
 {
-    return readValue("network/networkType", type);
+    return readText(TextValue::NetworkType, type);
 }
 
 int DialupService::IGetProfileName(QString &name)
 {
-    return readValue("connection/profile", name);
+    return readText(TextValue::Profile, name);
 }
 
 int ConnectionSettings::IGetProfileSettings(QString profileName, NetProfileSettings *settings)
 {
     QString known;
-    if (readValue("connection/profile", known) != Success || known != profileName ||
-        readValue("connection/apn", settings->apn) != Success)
+    if (readText(TextValue::Profile, known) != Success || known != profileName ||
+        readText(TextValue::Apn, settings->apn) != Success)
         return Failure;
     settings->profileName = known;
     return Success;

@@ -3,8 +3,9 @@
 
 #include "ModemSource.h"
 
-#include "ModemControl.h"
-#include "ModemService.h"
+#include "SdkControl.h"
+#include "modemmanager/ModemService.h"
+#include "simulated/SimulatedModem.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,7 +35,7 @@ bool ModemSource::detach()
 {
     if (!ModemService::detach())
         m_hanging = true;
-    ModemControl::detach();
+    SdkControl::attach(nullptr);
     return !m_hanging;
 }
 
@@ -86,10 +87,12 @@ bool ModemSource::attachSimulated(const QString &name, QString *error)
     }
     const QString file = m_folder + QLatin1Char('/') + name + QLatin1String(".ini");
     std::string reason;
-    if (!ModemControl::attach(QFile::encodeName(file).toStdString(), &reason)) {
+    const auto modem = SimulatedModem::load(QFile::encodeName(file).toStdString(), &reason);
+    if (!modem) {
         *error = QString::fromStdString(reason);
         return false;
     }
+    SdkControl::attach(modem, modem->results());
     m_simulated = true;
     m_name = name + QStringLiteral(" (simulated)");
     return true;
@@ -97,7 +100,7 @@ bool ModemSource::attachSimulated(const QString &name, QString *error)
 
 QString ModemSource::description() const
 {
-    return value(m_simulated ? "modem/description" : "device/deviceName");
+    return QString::fromStdString(SdkControl::text(TextValue::Description));
 }
 
 QString ModemSource::problem() const
@@ -105,13 +108,4 @@ QString ModemSource::problem() const
     return m_fallback.isEmpty()
                ? QString::fromStdString(ModemService::problem())
                : m_fallback + QStringLiteral(" A simulated modem takes its place.");
-}
-
-QString ModemSource::value(const char *key)
-{
-    const std::string ofService = ModemService::value(key);
-    if (!ofService.empty())
-        return QString::fromStdString(ofService);
-    // The encoding of all texts of the device.
-    return QString::fromLatin1(ModemControl::value(key).c_str());
 }

@@ -38,10 +38,6 @@ public:
     /// What is missing or does not answer, in a sentence; empty while all is well.
     QString problem() const;
 
-    /// A value that the host shows itself, by its key in host/modems/README.md; empty where there
-    /// is none.
-    static QString value(const char *key);
-
 private:
     bool attachSimulated(const QString &name, QString *error);
 

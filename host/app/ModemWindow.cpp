@@ -3,8 +3,8 @@
 
 #include "ModemWindow.h"
 
-#include "ModemControl.h"
 #include "ModemSource.h"
+#include "SdkControl.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -58,21 +58,21 @@ ModemWindow::ModemWindow(const ModemSource &modem)
 
 void ModemWindow::plug()
 {
-    ModemControl::plug();
+    SdkControl::plug();
     showState();
     m_unplug->setFocus();
 }
 
 void ModemWindow::unplug()
 {
-    ModemControl::unplug();
+    SdkControl::unplug();
     showState();
     m_plugIn->setFocus();
 }
 
 void ModemWindow::showState()
 {
-    const bool plugged = ModemControl::isPlugged();
+    const bool plugged = SdkControl::isPlugged();
     const QString problem = m_modem.problem();
     m_description->setText(m_modem.description());
     const bool away = !m_modem.isSimulated() && !problem.isEmpty();

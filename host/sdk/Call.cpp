@@ -71,18 +71,23 @@ std::shared_ptr<Modem> Call::pluggedModem()
     return library.plugged ? library.modem : nullptr;
 }
 
-SetResult Call::setResult() const
+SdkControl::Result Call::takeResult() const
 {
     Library &library = Library::instance();
     std::lock_guard<std::mutex> lock(library.mutex);
-    if (!library.results.empty()) {
-        for (const char *name : {m_function, "*"}) {
-            const auto found = library.results.find(name);
-            if (found != library.results.end())
-                return found->second;
-        }
-    }
-    return {VELT_SUCCESS, ModemControl::FillOutputs};
+    const SdkControl::Result none{VELT_SUCCESS, SdkControl::FillOutputs, 0};
+    auto found = library.results.find(m_function);
+    if (found == library.results.end())
+        found = library.results.find("*");
+    if (found == library.results.end())
+        return none;
+    const SdkControl::Result set = found->second;
+    if (set.call == 0)
+        return set;
+    if (--found->second.call > 0)
+        return none;
+    library.results.erase(found);
+    return set;
 }
 
 VELT_ERROR answerText(const char *function, TextValue value, char *buffer, size_t size)

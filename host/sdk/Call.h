@@ -21,8 +21,8 @@ void copyText(const std::string &text, char (&field)[Size])
     copyText(text, field, Size);
 }
 
-/// Collects what a function reads from the modem, and gives it to the out-parameters only when all
-/// of it could be read.
+/// Collects what a function reads from the modem. Gives it to the out-parameters only if all of it
+/// could be read.
 class Answer
 {
 public:
@@ -30,7 +30,7 @@ public:
 
     Modem &modem() { return m_modem; }
 
-    /// Notes a result; the first failure counts, which is returned.
+    /// Notes a result. Returns the first failure that was noted, or success.
     VELT_ERROR note(VELT_ERROR result);
 
     std::string text(TextValue value);
@@ -46,7 +46,8 @@ public:
         return static_cast<Number>(number);
     }
 
-    /// Gives each out-parameter the number or record that follows it. Returns the result of all.
+    /// Gives each out-parameter the number or record that stands behind it in the arguments.
+    /// Returns the result of all.
     template <typename Out, typename... Rest>
     VELT_ERROR give(Out *out, NumberValue value, const Rest &...rest)
     {
@@ -83,8 +84,8 @@ public:
             record({describe(inputs)...});
     }
 
-    /// The result of a function that asks the modem, where \a body answers with a function of
-    /// Answer.
+    /// The result of a function that asks the modem. \a body takes an Answer and returns the result
+    /// of its give() or giveText().
     template <typename Body>
     VELT_ERROR answer(Body body) const
     {
@@ -97,12 +98,12 @@ public:
         });
     }
 
-    /// The result of \a body, or what was set instead.
+    /// The result of \a body, or the one that is set for the function.
     template <typename Body>
     VELT_ERROR result(Body body) const
     {
-        const SetResult set = setResult();
-        if (set.outputs == ModemControl::KeepOutputs)
+        const SdkControl::Result set = takeResult();
+        if (set.outputs == SdkControl::KeepOutputs)
             return set.code;
         const VELT_ERROR result = body();
         return set.code == VELT_SUCCESS ? result : set.code;
@@ -114,7 +115,7 @@ private:
     static std::string describe(VELT_DEVICE_CALLBACK callback);
     void record(const std::vector<std::string> &inputs) const;
     static std::shared_ptr<Modem> pluggedModem();
-    SetResult setResult() const;
+    SdkControl::Result takeResult() const;
 
     const char *m_function;
 };
@@ -122,8 +123,8 @@ private:
 /// The whole of a function that gives one text.
 VELT_ERROR answerText(const char *function, TextValue value, char *buffer, size_t size);
 
-/// The whole of a function that gives numbers: \a outputs are out-parameters, each followed by its
-/// NumberValue.
+/// The whole of a function that gives numbers. In \a outputs a NumberValue follows each
+/// out-parameter.
 template <typename... Outputs>
 VELT_ERROR answerNumbers(const char *function, Outputs... outputs)
 {

@@ -5,27 +5,14 @@
 #define LIBRARY_H
 
 #include "EventDispatcher.h"
-#include "Modem.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 
 #include <atomic>
-#include <map>
 #include <memory>
 #include <mutex>
-#include <string>
 #include <vector>
 
-/// What a function does instead of its answer, see ModemControl::setResult().
-struct SetResult
-{
-    VELT_ERROR code;
-    ModemControl::Outputs outputs;
-};
-
-/// By function name, or "*".
-using SetResults = std::map<std::string, SetResult>;
-
-/// The state of libsdk.
+/// The state of libsdk. SdkControl writes it.
 struct Library
 {
     static Library &instance();
@@ -33,8 +20,8 @@ struct Library
     std::mutex mutex; ///< guards all down to the next empty line
     std::shared_ptr<Modem> modem;
     bool plugged = false;
-    SetResults results;
-    std::vector<ModemControl::Call> record;
+    SdkControl::Results results;
+    std::vector<SdkControl::RecordedCall> record;
 
     std::atomic<bool> recording{false};
 

@@ -4,13 +4,15 @@
 #ifndef MODEM_H
 #define MODEM_H
 
+#include "SdkExport.h"
 #include "sdk/VeltTypes.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
-// The values of a modem, by their names in the code and in the files of host/modems. The meaning of
-// each is told in host/modems/README.md.
+// The values of a modem: their enumerators, and their keys in the files of host/modems, whose
+// README tells what each means.
 // clang-format off
 #define MODEM_TEXT_VALUES(VALUE)                        \
     VALUE(CustomizeName,     "device/customizeName")    \
@@ -35,7 +37,13 @@
     VALUE(PsLac,             "network/psLac")           \
     VALUE(PsCellId,          "network/psCellId")        \
     VALUE(IpAddress,         "connection/ipAddress")    \
-    VALUE(NameServers,       "connection/nameServers")
+    VALUE(NameServers,       "connection/nameServers")  \
+    /* Read by the host alone, in UTF-8. */             \
+    VALUE(Description,       "modem/description")       \
+    VALUE(ServiceName,       "network/operatorName")    \
+    VALUE(NetworkType,       "network/networkType")     \
+    VALUE(Profile,           "connection/profile")      \
+    VALUE(Apn,               "connection/apn")
 
 #define MODEM_NUMBER_VALUES(VALUE)                              \
     VALUE(DeviceStatus,         "device/deviceStatus")          \
@@ -87,19 +95,24 @@ enum class NumberValue
 };
 #undef MODEM_ENUMERATOR
 
+/// The keys of all values, by enumerator.
+SDK_EXPORT const std::vector<const char *> &textKeys();
+SDK_EXPORT const std::vector<const char *> &numberKeys();
+
 /// A number that the modem doesn't tell, in a function whose other values are of use without it.
 const int64_t notTold = -1;
 
 /// A modem behind the SDK's functions. It knows its values and nothing of records, buffers and
 /// out-parameters. Any thread may call it, several at once; no call blocks.
-class Modem
+class SDK_EXPORT Modem
 {
 public:
-    virtual ~Modem() = default;
+    virtual ~Modem();
 
-    /// Reads a value. On failure the out-parameter is undefined.
-    virtual VELT_ERROR read(TextValue value, std::string &text) const = 0;
-    virtual VELT_ERROR read(NumberValue value, int64_t &number) const = 0;
+    /// Reads a value. Without a card, a value of the card gives VELT_ERROR_NO_SIM. On failure the
+    /// out-parameter is undefined.
+    VELT_ERROR read(TextValue value, std::string &text) const;
+    VELT_ERROR read(NumberValue value, int64_t &number) const;
 
     /// Reads a value of the connection with this profile, or of the current one if that is empty.
     virtual VELT_ERROR readConnection(TextValue value, const std::string &device,
@@ -111,6 +124,14 @@ public:
 
     /// Sets the report mode of the circuit-switched registration.
     virtual VELT_ERROR setReportMode(int32_t mode) = 0;
+
+protected:
+    virtual bool isCardMissing() const = 0;
+
+    /// Reads a value, whether it needs a card or not. VELT_ERROR_NOT_SUPPORTED for a value that the
+    /// modem does not have.
+    virtual VELT_ERROR find(TextValue value, std::string &text) const = 0;
+    virtual VELT_ERROR find(NumberValue value, int64_t &number) const = 0;
 };
 
 #endif

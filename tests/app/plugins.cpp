@@ -5,10 +5,10 @@
 #include "DiagnosticsReader.h"
 #include "HostPlugins.h"
 #include "MainWindow.h"
-#include "ModemControl.h"
 #include "ModemSource.h"
 #include "PluginLoader.h"
 #include "Report.h"
+#include "SdkControl.h"
 #include "TestSupport.h"
 
 #include <QDialog>
@@ -118,7 +118,7 @@ private Q_SLOTS:
             modem->findChild<QPushButton *>("ModemWindow_pushButtonPlugIn")};
         for (const bool plugged : {false, true}) {
             buttons[plugged]->click();
-            QCOMPARE(ModemControl::isPlugged(), plugged);
+            QCOMPARE(SdkControl::isPlugged(), plugged);
             QCOMPARE(state->text(), plugged ? "Plugged in" : "Unplugged");
             QVERIFY(!buttons[plugged]->isEnabled() && buttons[!plugged]->isEnabled());
         }
@@ -133,12 +133,13 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, fields);
         {
+            attachModem("wcdma");
             const HostPlugins plugins;
             setValues("network/operatorName=N;network/networkType=T;connection/"
                       "profile=P;connection/apn=A");
             setValues(fields.at(1));
             QCOMPARE(answers(), fields.at(2));
-            ModemControl::unplug();
+            SdkControl::unplug();
             QCOMPARE(answers(), "- - - -");
         }
         QVERIFY(!Startup::GetPluginContainer());

@@ -8,7 +8,7 @@
 
 #include "DiagnosticsConfigParse.h"
 
-#include "ModemControl.h"
+#include "SdkControl.h"
 
 #include <QBuffer>
 #include <QLabel>
@@ -128,7 +128,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     static const bool attached = [] { // before the host, which takes it away at its end
         TestSupport::attachModem("wcdma");
-        ModemControl::setValue("device/customizeName", DeviceCustomization);
+        TestSupport::modem().setValue("device/customizeName", DeviceCustomization);
         return true;
     }();
     Q_UNUSED(attached)

@@ -3,9 +3,10 @@
 
 #include "ServiceSupport.h"
 
-#include "ModemService.h"
 #include "SdkCalls.h"
+#include "SdkControl.h"
 #include "TestSupport.h"
+#include "modemmanager/ModemService.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -85,9 +86,10 @@ Pairs readSdk()
     all.removeDuplicates();
     values["all"] = all.join(", ");
     values["problem"] = QString::fromStdString(ModemService::problem());
-    for (const char *key : {"network/operatorName", "network/networkType", "connection/profile",
-                            "connection/apn", "device/deviceName"})
-        values[key] = QString::fromStdString(ModemService::value(key));
+    for (const TextValue value : {TextValue::ServiceName, TextValue::NetworkType,
+                                  TextValue::Profile, TextValue::Apn, TextValue::Description})
+        values[textKeys()[static_cast<size_t>(value)]] =
+            QString::fromStdString(SdkControl::text(value));
     std::lock_guard<std::mutex> lock(eventMutex);
     values["events"] = eventTexts.join(' ');
     return values;

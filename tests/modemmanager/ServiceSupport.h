@@ -57,7 +57,7 @@ private:
 };
 
 /// All that the SDK says: SdkCalls::answers(); the different ones of them as "all"; "problem" and
-/// the keys of ModemService::value(), what it tells the host; "events", what was taken.
+/// the keys of what the host alone reads; "events", what was taken.
 Pairs readSdk();
 
 /// What differs from the expected pairs; empty when nothing does.

@@ -24,22 +24,18 @@ Readings convertWith(const QVariantMap &told)
     return convert(objects);
 }
 
-#define NAME(value, name) name,
-const char *const textNames[] = {MODEM_TEXT_VALUES(NAME)};
-const char *const numberNames[] = {MODEM_NUMBER_VALUES(NAME)};
-#undef NAME
-
 QMap<QString, QString> valuesOf(const Readings &readings)
 {
     QMap<QString, QString> values;
-    for (const char *name : textNames)
+    for (const char *name : textKeys())
         values[name] = "none";
-    for (const char *name : numberNames)
+    for (const char *name : numberKeys())
         values[name] = "none";
     for (const auto &text : readings.texts)
-        values[textNames[static_cast<int>(text.first)]] = QString::fromLatin1(text.second.c_str());
+        values[textKeys()[static_cast<size_t>(text.first)]] =
+            QString::fromLatin1(text.second.c_str());
     for (const auto &number : readings.numbers)
-        values[numberNames[static_cast<int>(number.first)]] = QString::number(number.second);
+        values[numberKeys()[static_cast<size_t>(number.first)]] = QString::number(number.second);
     return values;
 }
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ModemService.h"
 #include "TestSupport.h"
 #include "VirtualModem.h"
+#include "modemmanager/ModemService.h"
 #include "modemmanager/ServiceTiming.h"
 
 #include <QtTest>

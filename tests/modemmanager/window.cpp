@@ -5,11 +5,11 @@
 
 #include "HostCore.h"
 #include "HostPlugins.h"
-#include "ModemService.h"
 #include "ModemSource.h"
 #include "PluginLoader.h"
 #include "TestSupport.h"
 #include "VirtualModem.h"
+#include "modemmanager/ModemService.h"
 
 #include "interfaces/INotify.h"
 #include "interfaces/IUIPlugin.h"

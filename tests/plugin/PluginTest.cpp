@@ -8,7 +8,7 @@
 #include "DiagnosticsUILogic.h"
 #include "DiagnosticsUIPlugin.h"
 
-#include "ModemControl.h"
+#include "SdkControl.h"
 
 #include <QPushButton>
 #include <QTabWidget>
@@ -21,7 +21,7 @@ void PluginTest::setUp(const QByteArray &configuration)
     m_log = new LogCapture;
     m_host = configuration.isEmpty() ? new ConfiguredHost : new ConfiguredHost(configuration);
     attachModem("wcdma");
-    ModemControl::startRecording();
+    SdkControl::startRecording();
     m_parent = new QWidget;
     m_parent->show();
     m_plugin = new DiagnosticsUIPlugin;
@@ -53,7 +53,7 @@ void PluginTest::open(const QByteArray &configuration)
     if (!configuration.isEmpty())
         m_host->write("DiagnosisConfig.xml", configuration);
     QCOMPARE(m_plugin->Init(), 1);
-    ModemControl::startRecording();
+    SdkControl::startRecording();
     QCOMPARE(show(), 1);
 }
 

@@ -6,7 +6,7 @@
 #include "TestSupport.h"
 
 #include "HostCore.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "interfaces/INotify.h"
 #include "interfaces/IUIPlugin.h"
 
@@ -213,8 +213,8 @@ void ModuleTest::metaObject()
 
 void ModuleTest::eventsFromAnotherThread()
 {
-    ModemControl::raiseEvent(6601); // before Init: nobody listens
-    QVERIFY(ModemControl::waitForEvents(10000));
+    SdkControl::raiseEvent(6601); // before Init: nobody listens
+    QVERIFY(SdkControl::waitForEvents(10000));
     settle();
     auto *plugin = qobject_cast<IUIPlugin *>(instance());
     QCOMPARE(plugin->Init(), 1);
@@ -222,10 +222,10 @@ void ModuleTest::eventsFromAnotherThread()
 
     std::thread other([] {
         for (int round = 0; round < 50; ++round)
-            ModemControl::raiseEvent(round % 2 ? 6000 : 6601);
+            SdkControl::raiseEvent(round % 2 ? 6000 : 6601);
     });
     other.join();
-    QVERIFY(ModemControl::waitForEvents(10000));
+    QVERIFY(SdkControl::waitForEvents(10000));
     const QStringList delivered = m_log->takeLog();
     QCOMPARE(delivered.filter("Dev Evenet(6601)").size(), 25);
     QCOMPARE(delivered.filter("onDevice").size(), 0); // only queued so far
@@ -235,12 +235,12 @@ void ModuleTest::eventsFromAnotherThread()
     QVERIFY(reached.at(0).contains("onDeviceUnavailable"));
     QVERIFY(reached.at(49).contains("onDeviceAvailable"));
 
-    ModemControl::raiseEvent(6601);
+    SdkControl::raiseEvent(6601);
     plugin->OnDestroy(); // with an event on its way
     settle();
     m_log->takeLog();
-    ModemControl::raiseEvent(6601);
-    QVERIFY(ModemControl::waitForEvents(10000));
+    SdkControl::raiseEvent(6601);
+    QVERIFY(SdkControl::waitForEvents(10000));
     settle();
     QCOMPARE(m_log->takeLog(), QStringList());
 }

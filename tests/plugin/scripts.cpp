@@ -30,7 +30,7 @@
 #include "PluginTest.h"
 
 #include "HostCore.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "interfaces/IDialupUIService.h"
 #include "interfaces/INetConnectSetting.h"
 #include "interfaces/IStatusBarUI.h"
@@ -277,7 +277,7 @@ void ScriptTest::play()
         } catch (const std::runtime_error &problem) {
             say(problem.what());
         }
-        ModemControl::waitForEvents(10000);
+        SdkControl::waitForEvents(10000);
         settle();
         const QStringList calls = takeCalls();
         m_calls += calls;
@@ -306,8 +306,8 @@ void ScriptTest::initTestCase()
         {"modem", [](A a) { attachModem(qPrintable(a)); }},
         {"set", [](A a) { setValues(a); }},
         {"fail", [this](A a) { fail(a.section("=", 0, 0), a.section("=", 1)); }},
-        {"unplug", [](A) { ModemControl::unplug(); }},
-        {"plug", [](A) { ModemControl::plug(); }},
+        {"unplug", [](A) { SdkControl::unplug(); }},
+        {"plug", [](A) { SdkControl::plug(); }},
         {"event", [this](A a) { say(Logic::OnDevEvents(a.toInt(), nullptr)); }},
         {"quiet", [this](A) { m_quiet = true; }},
 
@@ -387,9 +387,9 @@ void ScriptTest::setHost(const QString &state)
 /// The code 1 if none is given; "CODE filled" with the answer filled in all the same.
 void ScriptTest::fail(const QString &function, const QString &code)
 {
-    ModemControl::setResult(
+    SdkControl::setResult(
         function.toStdString(), code.isEmpty() ? 1 : code.section(' ', 0, 0).toInt(),
-        code.endsWith("filled") ? ModemControl::FillOutputs : ModemControl::KeepOutputs);
+        code.endsWith("filled") ? SdkControl::FillOutputs : SdkControl::KeepOutputs);
 }
 
 void ScriptTest::press(const QString &name)

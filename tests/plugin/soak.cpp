@@ -10,7 +10,7 @@
 #include "PluginTest.h"
 
 #include "Heap.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 
 #include <QDialog>
 #include <QPixmapCache>
@@ -40,7 +40,7 @@ private:
 
 void SoakTest::useWindow(const char *productType, bool cancel)
 {
-    ModemControl::setValue("device/productType", productType);
+    modem().setValue("device/productType", productType);
     QCOMPARE(show(), 1);
     const QPointer<QDialog> window = m_parent->findChild<QDialog *>();
     auto *tabs = window->findChild<QTabWidget *>();
@@ -61,7 +61,7 @@ void SoakTest::useWindow(const char *productType, bool cancel)
 void SoakTest::soak()
 {
     setUp();
-    ModemControl::stopRecording();
+    SdkControl::stopRecording();
     attachModem("cdma-pesn");
     QCOMPARE(m_plugin->Init(), 1);
 
@@ -82,10 +82,10 @@ void SoakTest::soak()
         while (!ending) {
             sleep(3);
             std::lock_guard<std::mutex> lock(plugging);
-            ModemControl::unplug();
+            SdkControl::unplug();
             ++unplugged;
             sleep(1);
-            ModemControl::plug();
+            SdkControl::plug();
         }
     });
 
@@ -100,7 +100,7 @@ void SoakTest::soak()
             // In the same state each time: a window of the same kind was the last, nothing is under
             // way.
             const std::lock_guard<std::mutex> lock(plugging);
-            ModemControl::waitForEvents(10000);
+            SdkControl::waitForEvents(10000);
             useWindow("0", true);
             DiagnosticsCdmaUI::DestroyInstance();
             m_log->takeLog();

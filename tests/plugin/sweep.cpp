@@ -10,7 +10,7 @@
 
 #include "HostCore.h"
 #include "HostPlugins.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "core/Change.h"
 #include "sdk/VeltDevice.h"
 
@@ -238,9 +238,9 @@ Life SweepTest::live(const Fault &fault)
         lastFailing = 0;
         m_plugin->Init();
     }
-    ModemControl::raiseEvent(VELT_EVENT_DEV_REMOVAL);
-    ModemControl::raiseEvent(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
-    ModemControl::waitForEvents(10000);
+    SdkControl::raiseEvent(VELT_EVENT_DEV_REMOVAL);
+    SdkControl::raiseEvent(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
+    SdkControl::waitForEvents(10000);
     settle();
     bool opened = show() == 1;
     if (!opened) {
@@ -256,8 +256,8 @@ Life SweepTest::live(const Fault &fault)
     else
         life.window += "none";
     m_plugin->OnDestroy();
-    ModemControl::raiseEvent(VELT_EVENT_DEV_ARRIVAL);
-    ModemControl::waitForEvents(10000);
+    SdkControl::raiseEvent(VELT_EVENT_DEV_ARRIVAL);
+    SdkControl::waitForEvents(10000);
 
     life.calls = takeCalls();
     const QStringList log = m_log->takeLog();
@@ -275,7 +275,7 @@ Life SweepTest::live(const Fault &fault)
     replacedPlugin = 0;
     replacement = nullptr;
     lastFailing = 0;
-    ModemControl::clearResults();
+    SdkControl::clearResults();
     VELT_DevSrv_UnRegisterDevMgrCallback(DiagnosticsUILogic::OnDevEvents);
     VELT_DevSrv_UnRegisterDevInitEventCallback(DiagnosticsUILogic::OnDevEvents);
     tearDown();
@@ -333,16 +333,16 @@ void SweepTest::addSdkFaults()
             continue;
         }
         const std::string function = name.toStdString();
-        add(name + " fails", [&] { ModemControl::setResult(function, 1); });
+        add(name + " fails", [&] { SdkControl::setResult(function, 1); });
         add(name + " fails and fills all the same",
-            [&] { ModemControl::setResult(function, 1, ModemControl::FillOutputs); });
+            [&] { SdkControl::setResult(function, 1, SdkControl::FillOutputs); });
         add(name + " succeeds and fills nothing",
-            [&] { ModemControl::setResult(function, 0, ModemControl::KeepOutputs); });
+            [&] { SdkControl::setResult(function, 0, SdkControl::KeepOutputs); });
         if (fields.value(1).contains('='))
             add(name + " gives odd numbers", [&] { setValues(fields.at(1)); });
         const auto setTexts = [&](const std::string &text) {
             for (const QString &key : fields.at(2).split(';'))
-                ModemControl::setValue(key.toStdString(), text);
+                modem().setValue(key.toStdString(), text);
         };
         if (fields.size() == 3) {
             add(name + " gives odd texts", [&] { setTexts("\x80\xE9\x1B\n<b>&%s"); });

@@ -10,7 +10,7 @@
 #include "PluginTest.h"
 
 #include "Heap.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "interfaces/IUIPlugin.h"
 
 #include <QPluginLoader>
@@ -36,7 +36,7 @@ private:
 /// With nothing under way and no log.
 long UnloadTest::heap()
 {
-    ModemControl::waitForEvents(10000);
+    SdkControl::waitForEvents(10000);
     settle();
     m_log->takeLog();
     return Heap::size();
@@ -47,8 +47,8 @@ long UnloadTest::heap()
 void UnloadTest::start(IUIPlugin *plugin)
 {
     QCOMPARE(plugin->Init(), 1);
-    ModemControl::raiseEvent(6000);
-    ModemControl::waitForEvents(10000);
+    SdkControl::raiseEvent(6000);
+    SdkControl::waitForEvents(10000);
     settle();
 }
 
@@ -68,7 +68,7 @@ void UnloadTest::moduleRound(bool explicitly)
 void UnloadTest::eachRoundLeavesTheTwoSingletons()
 {
     setUp();
-    ModemControl::stopRecording();
+    SdkControl::stopRecording();
     const int warmUp = 2;
     // In the test's own copy of the plug-in they can be given back, and then nothing is left.
     long singletons = 0;

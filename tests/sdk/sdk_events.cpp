@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "sdk/VeltDevice.h"
+#include "simulated/SimulatedModem.h"
 
 #include <atomic>
 #include <chrono>
@@ -23,6 +24,8 @@ std::atomic<int> failures{0};
             ++failures;                                                                            \
         }                                                                                          \
     } while (false)
+
+std::shared_ptr<SimulatedModem> modem;
 
 using Events = std::vector<int>;
 const auto shortTime = std::chrono::milliseconds(50);
@@ -45,8 +48,8 @@ const auto unregisterInit = VELT_DevSrv_UnRegisterDevInitEventCallback;
 void deliver(const Events &events)
 {
     for (const int event : events)
-        ModemControl::raiseEvent(event);
-    CHECK(ModemControl::waitForEvents(20000));
+        SdkControl::raiseEvent(event);
+    CHECK(SdkControl::waitForEvents(20000));
 }
 
 void kindsOrderAndThread()
@@ -58,7 +61,7 @@ void kindsOrderAndThread()
         thread = std::this_thread::get_id();
     };
     handlers[1] = [&](int event) { init.push_back(event); };
-    ModemControl::raiseEvent(6000); // before any registration
+    SdkControl::raiseEvent(6000); // before any registration
     CHECK(registerManager(callback<0>) == 0);
     CHECK(registerManager(callback<0>) == 0);
     CHECK(registerInit(callback<1>) == 0);
@@ -88,14 +91,14 @@ void plugging()
     };
     registerManager(callback<0>);
     registerInit(callback<0>);
-    ModemControl::unplug();
+    SdkControl::unplug();
     deliver({});
-    ModemControl::plug();
+    SdkControl::plug();
     deliver({});
     CHECK((seen == Events{6601, VELT_ERROR_NO_DEVICE, 0, 6000, 0, 3, 6014, 0, 3}));
-    ModemControl::setResult("VELT_DevSrv_UnRegisterDevMgrCallback", 9);
+    SdkControl::setResult("VELT_DevSrv_UnRegisterDevMgrCallback", 9);
     CHECK(unregisterManager(callback<0>) == 9);
-    ModemControl::clearResults();
+    SdkControl::clearResults();
     CHECK(unregisterManager(callback<0>) == 0);
     CHECK(unregisterInit(callback<0>) == 0);
 }
@@ -105,9 +108,9 @@ void changesInside()
     // A callback misses what was raised before its registration.
     Events late;
     handlers[0] = [&](int) {
-        ModemControl::raiseEvent(6000);
+        SdkControl::raiseEvent(6000);
         registerManager(callback<1>);
-        ModemControl::raiseEvent(6001);
+        SdkControl::raiseEvent(6001);
     };
     handlers[1] = [&](int event) { late.push_back(event); };
     registerInit(callback<0>);
@@ -145,9 +148,9 @@ void unregisterWaits(const std::function<void()> &inside, VELT_ERROR expected)
         finished = true;
     };
     registerManager(callback<0>);
-    ModemControl::raiseEvent(6000);
+    SdkControl::raiseEvent(6000);
     entered.get_future().wait();
-    CHECK(!ModemControl::waitForEvents(10));
+    CHECK(!SdkControl::waitForEvents(10));
     auto unregistered = std::async(std::launch::async, [&] {
         const VELT_ERROR result = unregisterManager(callback<0>);
         CHECK(finished);
@@ -173,14 +176,14 @@ void manyThreads()
     for (int thread = 0; thread < 4; ++thread)
         threads.emplace_back([thread] {
             for (int round = 0; round < 500; ++round) {
-                ModemControl::raiseEvent(7000 + thread * 1000 + round);
+                SdkControl::raiseEvent(7000 + thread * 1000 + round);
                 // Among all else that threads may do at once.
-                ModemControl::setValue("device/deviceName", round % 2 ? "MODEL" : "OTHER");
-                ModemControl::setResult("VELT_DevSrv_GetDevicePort", round);
+                modem->setValue("device/deviceName", round % 2 ? "MODEL" : "OTHER");
+                SdkControl::setResult("VELT_DevSrv_GetDevicePort", round);
                 char name[VELT_SIZE_DEVICE_NAME + 1] = {};
                 CHECK(VELT_DevSrv_GetDeviceName(name) == 0);
                 CHECK(name == std::string("MODEL") || name == std::string("OTHER"));
-                ModemControl::startRecording();
+                SdkControl::startRecording();
             }
         });
     for (std::thread &thread : threads)
@@ -217,7 +220,9 @@ void noCallAfterUnregistering()
 int main(int argc, char **argv)
 {
     std::string error;
-    CHECK(argc == 2 && ModemControl::attach(argv[1], &error));
+    modem = SimulatedModem::load(argc == 2 ? argv[1] : "", &error);
+    CHECK(modem);
+    SdkControl::attach(modem);
     kindsOrderAndThread();
     plugging();
     changesInside();
@@ -227,6 +232,6 @@ int main(int argc, char **argv)
     noCallAfterUnregistering();
     // The library ends with events still in its queue.
     for (int i = 0; i < 3; ++i)
-        ModemControl::raiseEvent(6000);
+        SdkControl::raiseEvent(6000);
     return failures == 0 ? 0 : 1;
 }

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ModemControl.h"
+#include "Functions.h"
 #include "SdkCalls.h"
+#include "SdkControl.h"
 #include "TestSupport.h"
 
 #include <QtTest>
@@ -10,27 +11,61 @@
 using SdkCalls::answers;
 using SdkCalls::Outs;
 using TestSupport::addRows;
+using TestSupport::contentOf;
+
+namespace {
+
+QStringList sorted(const QSet<QString> &names)
+{
+    QStringList list = names.values();
+    list.sort();
+    return list;
+}
+
+} // namespace
 
 class SdkFunctions : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init()
+    void init() { TestSupport::attachModem("../../tests/sdk/distinct"); }
+
+    /// The list of functions has those that the headers declare, and the tests call each of them.
+    void list()
     {
-        std::string error;
-        QVERIFY2(ModemControl::attach(TEST_SOURCE_DIR "/distinct.ini", &error), error.c_str());
+#define NAME(function) #function,
+        QStringList listed{SDK_FUNCTIONS(NAME)};
+#undef NAME
+        QCOMPARE(listed.size(), 37);
+        listed.sort();
+        QSet<QString> declared;
+        for (const char *header : {"VeltDevice", "VeltNetwork", "VeltPhonebook", "VeltSms"}) {
+            auto found = QRegularExpression("VELT_ERROR (VELT_\\w+)\\(")
+                             .globalMatch(contentOf(
+                                 QString(DIAG_SOURCE_DIR "/include/sdk/%1.h").arg(header)));
+            while (found.hasNext())
+                declared << found.next().captured(1);
+        }
+        QCOMPARE(sorted(declared), listed);
+        QSet<QString> called;
+        for (const SdkCalls::TestedCall &call : SdkCalls::all())
+            called << call.function;
+        QCOMPARE(sorted(called), listed.filter(QRegularExpression("^(?!.*Callback)")));
     }
 
-    void answer_data() { addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "answers"); }
+    void answer_data()
+    {
+        addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "answers");
+    }
     void answer()
     {
         QFETCH(QStringList, fields);
-        const auto found =
-            std::find_if(SdkCalls::all().begin(), SdkCalls::all().end(),
-                         [&](const SdkCalls::Call &call) { return call.name() == fields.at(0); });
+        const auto found = std::find_if(
+            SdkCalls::all().begin(), SdkCalls::all().end(),
+            [&](const SdkCalls::TestedCall &call) { return call.name() == fields.at(0); });
         QVERIFY(found != SdkCalls::all().end());
-        const SdkCalls::Call &call = *found;
+        const SdkCalls::TestedCall &call = *found;
         QCOMPARE(answers()[call.name()], fields.at(1));
         if (fields.at(1).startsWith("error"))
             return;
@@ -39,25 +74,25 @@ private Q_SLOTS:
             QCOMPARE(call.run(outs), result);
             QCOMPARE(show(outs), shown);
         };
-        ModemControl::startRecording();
+        SdkControl::startRecording();
         compare(0, fields.at(1));
-        const auto calls = ModemControl::recordedCalls();
+        const auto calls = SdkControl::recordedCalls();
         QCOMPARE(calls.size(), size_t(1));
         QCOMPARE(calls[0].function.c_str(), call.function);
         QCOMPARE(calls[0].arguments.c_str(), call.arguments);
 
-        ModemControl::setResult(call.function, 77);
+        SdkControl::setResult(call.function, 77);
         compare(77, "");
-        ModemControl::setResult(call.function, 77, ModemControl::FillOutputs);
+        SdkControl::setResult(call.function, 77, SdkControl::FillOutputs);
         compare(77, fields.at(1));
-        ModemControl::setResult(call.function, 0);
+        SdkControl::setResult(call.function, 0);
         compare(0, "");
-        ModemControl::clearResults();
-        ModemControl::unplug();
+        SdkControl::clearResults();
+        SdkControl::unplug();
         compare(VELT_ERROR_NO_DEVICE, "");
-        ModemControl::plug();
+        SdkControl::plug();
         compare(0, fields.at(1));
-        ModemControl::detach();
+        SdkControl::attach(nullptr);
         compare(VELT_ERROR_NO_DEVICE, "");
     }
 
@@ -88,19 +123,26 @@ private Q_SLOTS:
     void resultRules()
     {
         int32_t n = 0;
-        ModemControl::setResult("*", 50);
-        ModemControl::setResult("VELT_DevSrv_GetSimStatus", 0, ModemControl::FillOutputs);
+        SdkControl::setResult("*", 50);
+        SdkControl::setResult("VELT_DevSrv_GetSimStatus", 0, SdkControl::FillOutputs);
         QCOMPARE(VELT_DevSrv_GetDevStatus(&n), 50L);
         QCOMPARE(VELT_DevSrv_GetSimStatus(&n), 0L);
         QCOMPARE(n, 240);
+        SdkControl::clearResults();
+        SdkControl::setResult("VELT_DevSrv_GetDevStatus", 60, SdkControl::KeepOutputs, 2);
+        for (const VELT_ERROR result : {0L, 60L, 0L})
+            QCOMPARE(VELT_DevSrv_GetDevStatus(&n), result);
         init(); // a newly attached modem has the results of its own file
         QCOMPARE(VELT_NetSrv_SetCSRegReport(1), 0L);
-        ModemControl::setResult("VELT_NetSrv_SetCSRegReport", 0);
+        SdkControl::setResult("VELT_NetSrv_SetCSRegReport", 0);
         QCOMPARE(VELT_NetSrv_SetCSRegReport(0), 0L);
-        QCOMPARE(ModemControl::value("network/csReportMode"), std::string("1"));
+        QCOMPARE(TestSupport::modem().value("network/csReportMode"), std::string("1"));
     }
 
-    void value_data() { addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "values"); }
+    void value_data()
+    {
+        addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "values");
+    }
     void value()
     {
         QFETCH(QStringList, fields);
@@ -108,7 +150,10 @@ private Q_SLOTS:
         QCOMPARE(answers()[fields.at(3)], fields.at(4));
     }
 
-    void textLength_data() { addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "text lengths"); }
+    void textLength_data()
+    {
+        addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "text lengths");
+    }
     void textLength()
     {
         QFETCH(QStringList, fields);
@@ -129,20 +174,20 @@ private Q_SLOTS:
     void recording()
     {
         int32_t n = 0;
-        ModemControl::startRecording();
+        SdkControl::startRecording();
         VELT_NetSrv_GetPSState(&n);
-        ModemControl::startRecording();
+        SdkControl::startRecording();
         VELT_NetSrv_GetDNS(nullptr, "P", nullptr, -5);
         VELT_DevSrv_RegisterDevMgrCallback([](int, void *) { return 0; });
         VELT_DevSrv_UnRegisterDevInitEventCallback(nullptr);
         std::string calls;
-        for (const auto &call : ModemControl::recordedCalls())
+        for (const auto &call : SdkControl::recordedCalls())
             calls += call.function.substr(12) + "(" + call.arguments + ") ";
         QCOMPARE(calls, std::string("GetDNS(null, \"P\", -5) RegisterDevMgrCallback(callback) "
                                     "UnRegisterDevInitEventCallback(null) "));
-        ModemControl::stopRecording();
+        SdkControl::stopRecording();
         VELT_NetSrv_GetPSState(&n);
-        QVERIFY(ModemControl::recordedCalls().empty());
+        QVERIFY(SdkControl::recordedCalls().empty());
     }
 };
 

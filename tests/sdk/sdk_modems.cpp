@@ -1,27 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ModemControl.h"
+#include "SdkControl.h"
 #include "TestSupport.h"
 #include "sdk/VeltDevice.h"
 #include "sdk/VeltNetwork.h"
 #include "sdk/VeltSms.h"
 
-#include <QSettings>
 #include <QtTest>
 
 using namespace TestSupport;
-
-namespace {
-
-QStringList keysOf(const QString &modem)
-{
-    return QSettings(MODEM_DIR "/" + modem + ".ini", QSettings::IniFormat)
-        .allKeys()
-        .filter(QRegularExpression("^(?!results/)"));
-}
-
-} // namespace
 
 class SdkModems : public QObject
 {
@@ -34,9 +22,10 @@ private Q_SLOTS:
         QFETCH(QStringList, fields);
         std::string error;
         const QString file = MODEM_DIR "/" + fields.at(0) + ".ini";
-        QVERIFY2(ModemControl::attach(file.toStdString(), &error), error.c_str());
-        QVERIFY(ModemControl::isPlugged());
-        QCOMPARE(keysOf(fields.at(0)), keysOf("wcdma"));
+        const auto modem = SimulatedModem::load(file.toStdString(), &error);
+        QVERIFY2(modem, error.c_str());
+        SdkControl::attach(modem, modem->results());
+        QVERIFY(SdkControl::isPlugged());
 
         // What is what on this kind of modem, and the results of functions that only some have.
         int32_t type = -1, sim = -1, count = -1;
@@ -68,18 +57,28 @@ private Q_SLOTS:
         file.close();
         const std::string name = file.fileName().toStdString();
         std::string error;
-        QVERIFY(ModemControl::attach(TEST_SOURCE_DIR "/distinct.ini", &error));
-        QCOMPARE(ModemControl::attach(name, &error), fault.empty());
+        const auto modem = SimulatedModem::load(name, &error);
+        QCOMPARE(modem != nullptr, fault.empty());
         QCOMPARE(error, fault.empty() ? std::string() : name + ": " + fault);
-        QCOMPARE(ModemControl::value("device/deviceName"),
-                 std::string(fault.empty() ? "M\xfcr" : "MODEL"));
+        if (modem)
+            QCOMPARE(modem->value("device/deviceName"), std::string("M\xfcr"));
+    }
+
+    /// The page of the keys has a line for each.
+    void documentedKeys()
+    {
+        const QString page = contentOf(DIAG_SOURCE_DIR "/host/modems/README.md");
+        for (const auto &keys : {textKeys(), numberKeys()}) {
+            for (const char *key : keys)
+                QCOMPARE(page.count(QString("\n| `%1` | ").arg(key)), 1);
+        }
     }
 
     void fileThatIsNone()
     {
         for (const std::string file : {"/nowhere/modem.ini", TEST_SOURCE_DIR}) {
             std::string error;
-            QVERIFY(!ModemControl::attach(file, &error));
+            QVERIFY(!SimulatedModem::load(file, &error));
             QVERIFY2(error.find(file + ": ") == 0 && error.size() > file.size() + 5, error.c_str());
         }
     }

@@ -10,8 +10,8 @@
 
 namespace {
 
-using SdkCalls::Call;
 using SdkCalls::Outs;
+using SdkCalls::TestedCall;
 
 /// Null for one that was not written.
 template <typename Number>
@@ -35,7 +35,7 @@ QString text(const Unit (&units)[Size])
 // clang-format off
 #define CALL(function, ...) #function, [](Outs &o) { return function(__VA_ARGS__); }
 #define UNITS reinterpret_cast<uint16_t *>(o.units)
-const std::vector<Call> calls = {
+const std::vector<TestedCall> calls = {
     {CALL(VELT_DevSrv_GetDevStatus, o.n), ""},
     {CALL(VELT_DevSrv_GetProductType, o.n), ""},
     {CALL(VELT_DevSrv_GetCustomizeName, o.text), ""},
@@ -86,13 +86,13 @@ Outs::Outs()
     std::memset(static_cast<void *>(this), '#', sizeof *this);
 }
 
-QString Call::name() const
+QString TestedCall::name() const
 {
     const QString name = QString(function).section('_', 2);
     return *arguments ? name + '(' + arguments + ')' : name;
 }
 
-const std::vector<Call> &SdkCalls::all()
+const std::vector<TestedCall> &SdkCalls::all()
 {
     return calls;
 }
@@ -133,7 +133,7 @@ QString SdkCalls::show(const Outs &o)
 QMap<QString, QString> SdkCalls::answers()
 {
     QMap<QString, QString> answers;
-    for (const Call &call : calls) {
+    for (const TestedCall &call : calls) {
         Outs outs;
         const VELT_ERROR result = call.run(outs);
         answers[call.name()] =

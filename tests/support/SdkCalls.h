@@ -36,7 +36,7 @@ struct Outs
     char16_t units[60];
 };
 
-struct Call
+struct TestedCall
 {
     const char *function;
     VELT_ERROR (*run)(Outs &);
@@ -46,7 +46,7 @@ struct Call
     QString name() const;
 };
 
-const std::vector<Call> &all();
+const std::vector<TestedCall> &all();
 
 /// What a call wrote, separated by '|'. A '$' shows the zero at the end of a text.
 QString show(const Outs &outs);

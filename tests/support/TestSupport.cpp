@@ -5,7 +5,7 @@
 
 #include "DiagnosticsReader.h"
 #include "HostCore.h"
-#include "ModemControl.h"
+#include "SdkControl.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -27,6 +27,7 @@ QMutex mutex;
 QStringList logLines;
 QStringList warnings;
 QtMessageHandler previousHandler = nullptr;
+std::shared_ptr<SimulatedModem> attached;
 
 void collect(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
@@ -106,7 +107,7 @@ void setValues(const QString &changes)
     for (const QByteArray &change : changes.toLatin1().split(';')) {
         const int at = change.indexOf('=');
         if (at > 0)
-            ModemControl::setValue(change.left(at).toStdString(), change.mid(at + 1).toStdString());
+            modem().setValue(change.left(at).toStdString(), change.mid(at + 1).toStdString());
     }
 }
 
@@ -135,8 +136,15 @@ QStringList LogCapture::takeWarnings()
 void attachModem(const char *name)
 {
     std::string error;
-    if (!ModemControl::attach(std::string(MODEM_DIR "/") + name + ".ini", &error))
+    attached = SimulatedModem::load(std::string(MODEM_DIR "/") + name + ".ini", &error);
+    if (!attached)
         qFatal("%s", error.c_str());
+    SdkControl::attach(attached);
+}
+
+SimulatedModem &modem()
+{
+    return *attached;
 }
 
 void setLanguage(const char *language)
@@ -148,9 +156,9 @@ void setLanguage(const char *language)
 QStringList takeCalls()
 {
     QStringList calls;
-    for (const ModemControl::Call &call : ModemControl::recordedCalls())
+    for (const SdkControl::RecordedCall &call : SdkControl::recordedCalls())
         calls.append(QString::fromStdString(call.function + "(" + call.arguments + ")"));
-    ModemControl::startRecording();
+    SdkControl::startRecording();
     return calls;
 }
 
@@ -169,8 +177,8 @@ ConfiguredHost::~ConfiguredHost()
     HostCore::setPluginLibraryPath(QString());
     HostCore::setSettingsFile(QString());
     HostCore::setPluginContainer(nullptr);
-    ModemControl::stopRecording();
-    ModemControl::detach();
+    SdkControl::stopRecording();
+    SdkControl::attach(nullptr);
 }
 
 void ConfiguredHost::write(const char *fileName, const QByteArray &content)

@@ -4,6 +4,8 @@
 #ifndef TESTSUPPORT_H
 #define TESTSUPPORT_H
 
+#include "simulated/SimulatedModem.h"
+
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -50,8 +52,11 @@ public:
     QStringList takeWarnings();
 };
 
-/// Attaches a modem of host/modems with all its results answering, plugged in.
+/// Attaches a modem of host/modems, plugged in. None of its results is set.
 void attachModem(const char *name);
+
+/// The modem that attachModem() attached last.
+SimulatedModem &modem();
 
 /// Puts the host into a language of host/translations.
 void setLanguage(const char *language);

@@ -164,9 +164,10 @@ private:
             m_readings.texts[value] = latin1(text);
     }
 
-    void setHostValue(const char *key, const QString &text)
+    /// A text that the host alone reads.
+    void setHostText(TextValue value, const QString &text)
     {
-        m_readings.hostValues[key] = text.toStdString();
+        m_readings.texts[value] = text.toStdString();
     }
 
     bool isInitialising() const
@@ -214,7 +215,7 @@ private:
             numbers[NumberValue::DevicePort] = portNumber;
 
         set(TextValue::DeviceName, text(m_modem, "Model"));
-        setHostValue("device/deviceName", text(m_modem, "Model"));
+        setHostText(TextValue::Description, text(m_modem, "Model"));
         set(TextValue::Imei, imei());
         // Of these pairs a modem may have one alone, then the other is empty.
         m_readings.texts[TextValue::FirmwareVersion] = latin1(text(m_modem, "Revision"));
@@ -291,7 +292,7 @@ private:
                              return (technologies & technology.bits) == technology.bits;
                          });
         if (used != std::end(accessTechnologies) && technologies != 0xFFFFFFFF) {
-            setHostValue("network/networkType", QLatin1String(used->name));
+            setHostText(TextValue::NetworkType, QLatin1String(used->name));
             if (used->code != noCode)
                 numbers[NumberValue::AccessTechnology] = used->code;
         }
@@ -300,7 +301,7 @@ private:
 
         numbers[NumberValue::SelectionMode] = notTold;
         const QString name = text(m_3gpp, "OperatorName");
-        setHostValue("network/operatorName", name);
+        setHostText(TextValue::ServiceName, name);
         m_readings.texts[TextValue::OperatorLongName] = latin1(name);
         m_readings.texts[TextValue::OperatorShortName] = std::string();
         set(TextValue::OperatorCode, text(m_3gpp, "OperatorCode"));
@@ -419,8 +420,8 @@ private:
             const QString name = text(settings, "profile-name");
             const QString profile = name.isEmpty() ? apn : name;
             if (m_readings.connections.empty()) {
-                setHostValue("connection/profile", profile);
-                setHostValue("connection/apn", apn);
+                setHostText(TextValue::Profile, profile);
+                setHostText(TextValue::Apn, apn);
             }
 
             QVariantMap ip = property(bearer, "Ip4Config").toMap();

@@ -5,7 +5,6 @@
 #define CONVERSION_H
 
 #include "Modem.h"
-#include "ModemControl.h"
 
 #include <QList>
 #include <QMap>
@@ -38,8 +37,7 @@ struct Readings
         std::string profile;
         std::map<TextValue, std::string> texts;
     };
-    std::vector<Connection> connections;           ///< the current one first
-    std::map<std::string, std::string> hostValues; ///< see ModemService::value()
+    std::vector<Connection> connections; ///< the current one first
 };
 
 /// How far the service is with a modem (its Modem.State).
@@ -54,6 +52,6 @@ enum ServiceModemState
 bool isUsable(const QVariantMap &modem);
 
 /// All that the SDK says of a modem. Scales and states are those of 3GPP TS 27.007.
-MODEM_CONTROL_API Readings convert(const ServiceObjects &objects);
+SDK_EXPORT Readings convert(const ServiceObjects &objects);
 
 #endif

@@ -3,12 +3,14 @@
 
 #include "ModemService.h"
 
-#include "Library.h"
+#include "SdkControl.h"
 #include "ServiceWatcher.h"
+#include "sdk/VeltDevice.h"
 
 #include <QThread>
 
 #include <condition_variable>
+#include <mutex>
 
 namespace {
 
@@ -50,15 +52,6 @@ struct Attachment
     ServiceModem::Clock::time_point validUntil;
     int confirmation = 0; ///< ms
 
-    void setModem(const std::shared_ptr<ServiceModem> &newModem)
-    {
-        modem = newModem;
-        Library &library = Library::instance();
-        std::lock_guard<std::mutex> lock(library.mutex);
-        library.modem = newModem;
-        library.plugged = newModem != nullptr;
-    }
-
     void confirm(ServiceStatus newStatus)
     {
         status = newStatus;
@@ -85,18 +78,18 @@ void report(int generation, ServiceStatus status, const std::shared_ptr<ServiceM
         return;
     const std::shared_ptr<ServiceModem> before = state.modem;
     state.confirm(status);
-    state.setModem(modem);
+    state.modem = modem;
+    SdkControl::update(modem);
     lock.unlock();
     state.changed.notify_all();
 
-    EventDispatcher &events = Library::instance().events;
     const bool same = before && modem && before->path() == modem->path();
     if (before && !same)
-        events.raise(VELT_EVENT_DEV_REMOVAL);
+        SdkControl::raiseEvent(VELT_EVENT_DEV_REMOVAL);
     if (modem && !same)
-        events.raise(VELT_EVENT_DEV_ARRIVAL);
+        SdkControl::raiseEvent(VELT_EVENT_DEV_ARRIVAL);
     if (modem && modem->isReady() && !(same && before->isReady()))
-        events.raise(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
+        SdkControl::raiseEvent(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
 }
 
 } // namespace
@@ -121,8 +114,8 @@ void attach(int index)
         state.index = index;
         state.confirmation = serviceTiming().confirmation;
         state.confirm(ServiceStatus::Starting);
-        state.setModem(nullptr);
-        ModemControl::clearResults();
+        state.modem.reset();
+        SdkControl::attach(nullptr);
     }
     state.worker = std::make_unique<Worker>(
         index, [generation](ServiceStatus status, const std::shared_ptr<ServiceModem> &modem) {
@@ -145,7 +138,8 @@ bool detach()
     Lock lock(state.mutex);
     ++state.generation;
     state.index = -1;
-    state.setModem(nullptr);
+    state.modem.reset();
+    SdkControl::attach(nullptr);
     return ended;
 }
 
@@ -178,13 +172,6 @@ std::string problem()
                                 : "ModemManager knows no usable modem with the number " +
                                       std::to_string(state.index) + ".";
     return std::string();
-}
-
-std::string value(const std::string &key)
-{
-    Attachment &state = attachment();
-    Lock lock(state.mutex);
-    return state.modem && state.modem->isValid() ? state.modem->hostValue(key) : std::string();
 }
 
 } // namespace ModemService

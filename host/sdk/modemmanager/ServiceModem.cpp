@@ -6,17 +6,11 @@
 #include "sdk/VeltDevice.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
-#define NAME(value, name) name,
-const char *const textKeys[] = {MODEM_TEXT_VALUES(NAME)};
-const char *const numberKeys[] = {MODEM_NUMBER_VALUES(NAME)};
-#undef NAME
-
 template <typename Key, typename Value>
-VELT_ERROR find(const std::map<Key, Value> &values, Key key, Value &value)
+VELT_ERROR lookUp(const std::map<Key, Value> &values, Key key, Value &value)
 {
     const auto found = values.find(key);
     if (found == values.end())
@@ -38,35 +32,14 @@ bool ServiceModem::isReady() const
     return m_readings.numbers.at(NumberValue::DeviceStatus) == VELT_DEV_STATUS_READY;
 }
 
-std::string ServiceModem::hostValue(const std::string &key) const
+VELT_ERROR ServiceModem::find(TextValue value, std::string &text) const
 {
-    std::string text;
-    find(m_readings.hostValues, key, text);
-    return text;
+    return isValid() ? lookUp(m_readings.texts, value, text) : VELT_ERROR_TIMEOUT;
 }
 
-VELT_ERROR ServiceModem::check(const char *key) const
+VELT_ERROR ServiceModem::find(NumberValue value, int64_t &number) const
 {
-    static const char simGroup[] = "sim/";
-    if (!isValid())
-        return VELT_ERROR_TIMEOUT;
-    return m_readings.simMissing && std::strncmp(key, simGroup, sizeof simGroup - 1) == 0
-               ? VELT_ERROR_NO_SIM
-               : VELT_SUCCESS;
-}
-
-VELT_ERROR ServiceModem::read(TextValue value, std::string &text) const
-{
-    const VELT_ERROR result = check(textKeys[static_cast<size_t>(value)]);
-    return result == VELT_SUCCESS ? find(m_readings.texts, value, text) : result;
-}
-
-VELT_ERROR ServiceModem::read(NumberValue value, int64_t &number) const
-{
-    const VELT_ERROR result = check(numberKeys[static_cast<size_t>(value)]);
-    return result == VELT_SUCCESS || (isValid() && value == NumberValue::SimStatus)
-               ? find(m_readings.numbers, value, number)
-               : result;
+    return isValid() ? lookUp(m_readings.numbers, value, number) : VELT_ERROR_TIMEOUT;
 }
 
 VELT_ERROR ServiceModem::readConnection(TextValue value, const std::string &,
@@ -80,7 +53,7 @@ VELT_ERROR ServiceModem::readConnection(TextValue value, const std::string &,
                          return profile.empty() || candidate.profile == profile;
                      });
     return connection == m_readings.connections.end() ? VELT_ERROR_FAILURE
-                                                      : find(connection->texts, value, text);
+                                                      : lookUp(connection->texts, value, text);
 }
 
 VELT_ERROR ServiceModem::readOwnNumber(int32_t index, std::string &name, std::string &number) const

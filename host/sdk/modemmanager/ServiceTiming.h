@@ -4,7 +4,7 @@
 #ifndef SERVICETIMING_H
 #define SERVICETIMING_H
 
-#include "ModemControl.h"
+#include "SdkExport.h"
 
 /// How long the service may take; shorter in tests. Read by ModemService::attach().
 struct ServiceTiming
@@ -13,6 +13,6 @@ struct ServiceTiming
     int confirmation = 15000; ///< how long a reading counts, ms
 };
 
-MODEM_CONTROL_API ServiceTiming &serviceTiming();
+SDK_EXPORT ServiceTiming &serviceTiming();
 
 #endif

@@ -118,8 +118,8 @@ ServiceWatcher::ServiceWatcher(int index, const ServiceTiming &timing, const Rep
     read();
 }
 
-// The connection stays for the next watcher: the toolkit doesn't bear that one is closed while
-// calls are under way.
+// The connection stays open for the next watcher: Qt crashes when one is closed while calls are
+// under way.
 ServiceWatcher::~ServiceWatcher() = default;
 
 bool ServiceWatcher::connectBus()
@@ -187,7 +187,7 @@ void ServiceWatcher::read()
 }
 
 void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, const char *interface,
-                         const char *method, const QVariantList &arguments, const Answer &answer)
+                         const char *method, const QVariantList &arguments, const TakeReply &take)
 {
     QDBusMessage message = QDBusMessage::createMethodCall(service, path, QLatin1String(interface),
                                                           QLatin1String(method));
@@ -207,7 +207,7 @@ void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, con
         if (!isDetail)
             reading->answered = ServiceModem::Clock::now();
         if (!error.isValid()) {
-            answer(toPlain(reply.arguments().value(0)));
+            take(toPlain(reply.arguments().value(0)));
         } else if (error.type() == QDBusError::ServiceUnknown ||
                    error.name() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner")) {
             reading->status = ServiceStatus::NoService;

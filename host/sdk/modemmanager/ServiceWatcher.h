@@ -49,13 +49,13 @@ private slots:
 private:
     struct Reading;
     using ReadingPointer = std::shared_ptr<Reading>;
-    /// Takes the first argument of an answer, in plain types.
-    using Answer = std::function<void(const QVariant &)>;
+    /// Takes the first argument of a reply, in plain types.
+    using TakeReply = std::function<void(const QVariant &)>;
 
     bool connectBus();
     void onServiceOwnerChanged(const QString &newOwner);
     void ask(const ReadingPointer &reading, const QString &path, const char *interface,
-             const char *method, const QVariantList &arguments, const Answer &answer);
+             const char *method, const QVariantList &arguments, const TakeReply &take);
     void askProperties(const ReadingPointer &reading, const QString &path, const char *interface,
                        const std::function<void(const QVariantMap &)> &take);
     void choose(const ReadingPointer &reading, const QVariantMap &objects);

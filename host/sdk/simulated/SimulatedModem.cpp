@@ -3,6 +3,8 @@
 
 #include "SimulatedModem.h"
 
+#include "Functions.h"
+
 #include <QFile>
 #include <QSettings>
 #include <QStringList>
@@ -10,64 +12,17 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
-#include <iterator>
+#include <vector>
 
 namespace {
 
-#define NAME(value, name) name,
-const char *const textKeys[] = {MODEM_TEXT_VALUES(NAME)};
-const char *const numberKeys[] = {MODEM_NUMBER_VALUES(NAME)};
+#define NAME(function) #function,
+const std::vector<const char *> resultNames{"*", SDK_FUNCTIONS(NAME)};
 #undef NAME
 
-/// What only the host reads, through ModemControl::value().
-const char *const hostKeys[] = {"modem/description", "network/operatorName", "network/networkType",
-                                "connection/profile", "connection/apn"};
-
-const char *const resultNames[] = {
-    "*",
-    "VELT_DevSrv_RegisterDevMgrCallback",
-    "VELT_DevSrv_RegisterDevInitEventCallback",
-    "VELT_DevSrv_UnRegisterDevMgrCallback",
-    "VELT_DevSrv_UnRegisterDevInitEventCallback",
-    "VELT_DevSrv_GetDevStatus",
-    "VELT_DevSrv_GetProductType",
-    "VELT_DevSrv_GetCustomizeName",
-    "VELT_DevSrv_GetDeviceName",
-    "VELT_DevSrv_GetDevicePort",
-    "VELT_DevSrv_GetFirmwareVersion",
-    "VELT_DevSrv_GetImeiInfo",
-    "VELT_DevSrv_GetSN",
-    "VELT_DevSrv_GetESN",
-    "VELT_DevSrv_GetVoltage",
-    "VELT_DevSrv_GetNumberOfCarrier",
-    "VELT_DevSrv_GetSimStatus",
-    "VELT_DevSrv_GetPinStatus",
-    "VELT_DevSrv_GetImsiInfo",
-    "VELT_DevSrv_GetUserNumMemAbility",
-    "VELT_DevSrv_ReadUserNumItem",
-    "VELT_NetSrv_GetCurPlmn",
-    "VELT_NetSrv_GetCSRegState",
-    "VELT_NetSrv_GetPSRegState",
-    "VELT_NetSrv_SetCSRegReport",
-    "VELT_NetSrv_GetPSState",
-    "VELT_NetSrv_GetRowRSSI",
-    "VELT_NetSrv_GetSignalQuality",
-    "VELT_NetSrv_GetEFFile",
-    "VELT_NetSrv_GetPrlVer",
-    "VELT_NetSrv_GetIPAddress",
-    "VELT_NetSrv_GetDNS",
-    "VELT_PBSrv_PBGetMemAbility",
-    "VELT_PBSrv_GetSize",
-    "VELT_PBSrv_GetCapacity",
-    "VELT_SMSSrv_GetSMSCentreNumber",
-    "VELT_SMSSrv_SMSRecordSetGetRecordCount",
-    "VELT_SMSSrv_GetRecordInfo",
-};
-
-template <size_t Size>
-bool contains(const char *const (&names)[Size], const std::string &name)
+bool contains(const std::vector<const char *> &names, const std::string &name)
 {
-    return std::find(std::begin(names), std::end(names), name) != std::end(names);
+    return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 bool toNumber(const std::string &text, int64_t &number)
@@ -79,11 +34,11 @@ bool toNumber(const std::string &text, int64_t &number)
 }
 
 const std::string resultsGroup = "results/";
+const int64_t noCard = 255; // SIM status
 
 } // namespace
 
-std::shared_ptr<SimulatedModem> SimulatedModem::load(const std::string &iniFile,
-                                                     SetResults *results, std::string *error)
+std::shared_ptr<SimulatedModem> SimulatedModem::load(const std::string &iniFile, std::string *error)
 {
     const auto fail = [&](const std::string &fault) {
         *error = iniFile + ": " + fault;
@@ -115,13 +70,14 @@ std::shared_ptr<SimulatedModem> SimulatedModem::load(const std::string &iniFile,
                 return fail(key + ": unknown function");
             if (!isNumber)
                 return fail(notANumber);
-            (*results)[function] = {static_cast<VELT_ERROR>(number), ModemControl::KeepOutputs};
+            modem->m_results[function] = {static_cast<VELT_ERROR>(number), SdkControl::KeepOutputs,
+                                          0};
             continue;
         }
-        if (contains(numberKeys, key)) {
+        if (contains(numberKeys(), key)) {
             if (!isNumber && !value.empty())
                 return fail(notANumber);
-        } else if (!contains(textKeys, key) && !contains(hostKeys, key)) {
+        } else if (!contains(textKeys(), key)) {
             return fail(key + ": unknown key");
         }
         modem->m_values[key] = value;
@@ -142,13 +98,14 @@ void SimulatedModem::setValue(const std::string &key, const std::string &value)
     m_values[key] = value;
 }
 
-VELT_ERROR SimulatedModem::read(const char *key, std::string &text) const
+bool SimulatedModem::isCardMissing() const
 {
-    static const std::string simGroup = "sim/";
-    static const std::string simStatus = "sim/simStatus";
-    if (simGroup.compare(0, std::string::npos, key, simGroup.size()) == 0 && simStatus != key &&
-        value(simStatus) == "255")
-        return VELT_ERROR_NO_SIM;
+    int64_t status = 0;
+    return find(NumberValue::SimStatus, status) == VELT_SUCCESS && status == noCard;
+}
+
+VELT_ERROR SimulatedModem::find(const char *key, std::string &text) const
+{
     std::lock_guard<std::mutex> lock(m_mutex);
     const auto found = m_values.find(key);
     if (found == m_values.end())
@@ -157,15 +114,15 @@ VELT_ERROR SimulatedModem::read(const char *key, std::string &text) const
     return VELT_SUCCESS;
 }
 
-VELT_ERROR SimulatedModem::read(TextValue value, std::string &text) const
+VELT_ERROR SimulatedModem::find(TextValue value, std::string &text) const
 {
-    return read(textKeys[static_cast<size_t>(value)], text);
+    return find(textKeys()[static_cast<size_t>(value)], text);
 }
 
-VELT_ERROR SimulatedModem::read(NumberValue value, int64_t &number) const
+VELT_ERROR SimulatedModem::find(NumberValue value, int64_t &number) const
 {
     std::string text;
-    const VELT_ERROR result = read(numberKeys[static_cast<size_t>(value)], text);
+    const VELT_ERROR result = find(numberKeys()[static_cast<size_t>(value)], text);
     if (result != VELT_SUCCESS)
         return result;
     if (text.empty())
@@ -176,9 +133,12 @@ VELT_ERROR SimulatedModem::read(NumberValue value, int64_t &number) const
 VELT_ERROR SimulatedModem::readConnection(TextValue value, const std::string &,
                                           const std::string &profile, std::string &text) const
 {
-    if (!profile.empty() && profile != this->value("connection/profile"))
+    std::string known;
+    find(TextValue::Profile, known);
+    // The name comes from the SDK's user, in Latin-1.
+    if (!profile.empty() && profile != QString::fromStdString(known).toLatin1().toStdString())
         return VELT_ERROR_FAILURE;
-    return read(value, text);
+    return find(value, text);
 }
 
 VELT_ERROR SimulatedModem::readOwnNumber(int32_t index, std::string &name,
@@ -198,6 +158,6 @@ VELT_ERROR SimulatedModem::readOwnNumber(int32_t index, std::string &name,
 
 VELT_ERROR SimulatedModem::setReportMode(int32_t mode)
 {
-    setValue(numberKeys[static_cast<size_t>(NumberValue::CsReportMode)], std::to_string(mode));
+    setValue(numberKeys()[static_cast<size_t>(NumberValue::CsReportMode)], std::to_string(mode));
     return VELT_SUCCESS;
 }

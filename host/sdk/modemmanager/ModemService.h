@@ -4,7 +4,7 @@
 #ifndef MODEMSERVICE_H
 #define MODEMSERVICE_H
 
-#include "ModemControl.h"
+#include "SdkExport.h"
 
 #include <string>
 
@@ -25,25 +25,19 @@ namespace ModemService {
 /// with this number, from 0 on. A modem that was away is taken again, whatever its number then is.
 /// Ends with detach(), which must come before the application object goes and before another modem
 /// is attached.
-MODEM_CONTROL_API void attach(int index = 0);
+SDK_EXPORT void attach(int index = 0);
 
 /// Takes the service's modem away, without any event. Does nothing when it isn't attached. False
 /// when the worker could not be ended, because the message bus hangs: the toolkit would then hang
 /// at the end of the program too, which should leave by std::_Exit().
-MODEM_CONTROL_API bool detach();
+SDK_EXPORT bool detach();
 
 /// Whether the service has told of the modem in time. Waits for its first answer, no longer than
 /// \a milliseconds.
-MODEM_CONTROL_API bool isPresent(int milliseconds);
+SDK_EXPORT bool isPresent(int milliseconds);
 
 /// What is missing or doesn't answer, a sentence for the user; empty while all is well.
-MODEM_CONTROL_API std::string problem();
-
-/// What the host shows itself, in UTF-8, by its key in host/modems/README.md:
-/// "network/operatorName", "network/networkType", "connection/profile", "connection/apn" and
-/// "device/deviceName". Empty for what isn't known. The profile and its APN are those of the
-/// connection that is up, else of the first one; a profile without a name has that of its APN.
-MODEM_CONTROL_API std::string value(const std::string &key);
+SDK_EXPORT std::string problem();
 
 } // namespace ModemService
 

@@ -41,8 +41,8 @@ bool EventDispatcher::remove(Kind kind, VELT_DEVICE_CALLBACK callback)
     if (found)
         m_registrations.erase(registration);
 
-    // A callback that ended its own registration may still be running when another thread asks for
-    // the same, so the wait doesn't depend on what was found.
+    // A callback that unregistered itself may still be running when another thread unregisters it.
+    // So wait even if no registration was found.
     const Registration running = m_running;
     if (running.kind == kind && running.callback == callback &&
         std::this_thread::get_id() != m_worker.get_id())

@@ -13,8 +13,8 @@
 #include <thread>
 #include <vector>
 
-/// Delivers the device events to the registered callbacks, in order, on a thread of its own, which
-/// the first event starts. Any thread may call it, the callbacks included.
+/// Delivers the device events to the registered callbacks, in order, on a thread of its own. The
+/// first event starts the thread. Any thread may call these functions, the callbacks included.
 class EventDispatcher
 {
 public:
@@ -29,13 +29,13 @@ public:
 
     void add(Kind kind, VELT_DEVICE_CALLBACK callback);
 
-    /// False if the callback is not registered. Even then no call of it is running any more on
-    /// return, but for the one that calls this.
+    /// Returns false if the callback is not registered. On return no call of the callback is
+    /// running, except a call that called this function.
     bool remove(Kind kind, VELT_DEVICE_CALLBACK callback);
 
     void raise(int event);
 
-    /// Waits until all events raised so far are delivered; false if that took too long.
+    /// Waits until all events raised so far are delivered. Returns false if that takes longer.
     bool wait(int milliseconds);
 
 private:

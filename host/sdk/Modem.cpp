@@ -7,7 +7,7 @@
 
 namespace {
 
-/// All values of the group of the card but its status, which tells that there is none.
+/// All values of the group "sim" but its status, which is known without a card.
 bool needsCard(const char *key)
 {
     static const char group[] = "sim/";

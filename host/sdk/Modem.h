@@ -99,7 +99,8 @@ enum class NumberValue
 SDK_EXPORT const std::vector<const char *> &textKeys();
 SDK_EXPORT const std::vector<const char *> &numberKeys();
 
-/// A number that the modem doesn't tell, in a function whose other values are of use without it.
+/// Stands for a number that the modem does not tell, in a function whose other values are of use
+/// without it.
 const int64_t notTold = -1;
 
 /// A modem behind the SDK's functions. It knows its values and nothing of records, buffers and

@@ -29,7 +29,7 @@ VELT_ERROR unregisterCallback(const char *function, Kind kind, VELT_DEVICE_CALLB
     });
 }
 
-/// A number from 0 to 9 as a character; '?' stands for one that the modem doesn't tell.
+/// A number from 0 to 9 as a character; '?' if the modem does not tell it.
 char digit(Answer &answer, NumberValue value)
 {
     const int32_t number = answer.number<int32_t>(value);

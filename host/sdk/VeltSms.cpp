@@ -20,7 +20,7 @@ VELT_ERROR VELT_SMSSrv_GetSMSCentreNumber(int32_t *length, uint16_t *number, int
         const int32_t size = static_cast<int32_t>(centre.size());
         const VELT_ERROR result = answer.give(length, size);
         if (result == VELT_SUCCESS && request != 0) {
-            // With its zero, as far as there is room for it.
+            // With the zero at its end, if there is room for it.
             std::copy_n(centre.utf16(), std::min(size + 1, capacity), number);
         }
         return result;

@@ -53,8 +53,8 @@ int64_t lookUp(const Number (&table)[Size], int64_t code, int64_t unknown)
     return code >= 0 && code < static_cast<int64_t>(Size) ? table[code] : unknown;
 }
 
-/// Registrations for messages only, or without a wish for calls, are registrations; emergency calls
-/// and restricted local services need none.
+/// By the service's registration state. Registrations "SMS only" and "CSFB not preferred" are
+/// registrations; states "emergency only" and "attached RLOS" are not.
 const int registrationStates[] = {0, 1, 2, 3, 4, 5, 1, 5, 0, 1, 5, 0};
 const int registrationUnknown = 4;
 
@@ -65,8 +65,8 @@ const int packetStates[] = {255, 0, 1};
 
 const int noCode = -1;
 
-/// The first technology counts that is among those in use. The networks' packet extensions (EDGE,
-/// HSDPA) have the code of the network itself.
+/// The first row whose bits are all in use counts. Packet extensions of a network (EDGE, HSDPA)
+/// have the code of the network.
 const struct
 {
     unsigned bits;
@@ -116,7 +116,7 @@ bool has(const QVariantMap &properties, const char *name)
     return properties.contains(QLatin1String(name));
 }
 
-/// False for a level that is missing or no level of any radio.
+/// Returns false if the level is missing, or larger than any radio's.
 bool readLevel(const QVariantMap &signal, const char *name, double &level)
 {
     bool isNumber = false;
@@ -188,7 +188,7 @@ private:
         return capabilities & CapabilityTdScdma ? VELT_PRODUCT_TD_SCDMA : VELT_PRODUCT_UNKNOWN;
     }
 
-    /// A modem that failed has only the general number, which is an IMEI or something else.
+    /// A modem that failed has no interface of 3GPP modems. Its general number may be an IMEI.
     QString imei() const
     {
         const QString imei = text(m_3gpp, "Imei");
@@ -217,7 +217,7 @@ private:
         set(TextValue::DeviceName, text(m_modem, "Model"));
         setHostText(TextValue::Description, text(m_modem, "Model"));
         set(TextValue::Imei, imei());
-        // Of these pairs a modem may have one alone, then the other is empty.
+        // The SDK gives these in pairs. If a modem has only one of a pair, the other is empty.
         m_readings.texts[TextValue::FirmwareVersion] = latin1(text(m_modem, "Revision"));
         m_readings.texts[TextValue::HardwareVersion] = latin1(text(m_modem, "HardwareRevision"));
         const QVariantMap cdma = interface("Modem.ModemCdma");
@@ -276,7 +276,7 @@ private:
         numbers[NumberValue::PinStatus] = state;
         numbers[NumberValue::PinAttempts] = attempts(LockPin);
         numbers[NumberValue::PukAttempts] = pukAttempts;
-        // Where no lock is named, the service may just not know.
+        // The service may not know of a lock, so that none named means nothing.
         const bool asked = property(m_3gpp, "EnabledFacilityLocks").toUInt() & simFacility;
         numbers[NumberValue::PinEnabled] =
             asked || lock == LockPin || lock == LockPuk ? 1 : notTold;
@@ -312,8 +312,8 @@ private:
         numbers[NumberValue::CsState] = state;
         if (!has(m_3gpp, "PacketServiceState"))
             return;
-        // The service has one registration for both domains; in the packet domain the modem takes
-        // part in it while it is attached.
+        // The service has one registration for both domains. It holds for the packet domain while
+        // the modem is attached.
         const int64_t packet = number(m_3gpp, "PacketServiceState");
         const int64_t attachment = lookUp(packetStates, packet, 255);
         const bool registered = state == 1 || state == 5;
@@ -375,7 +375,7 @@ private:
             const double raw = tdScdma ? rssi + 116 : (rssi + 113) / 2;
             numbers[NumberValue::Rssi] = std::lround(std::min(std::max(raw, 0.0), top));
         } else if (quality.size() == 2) {
-            // 0 stands for no reading too.
+            // 0 may also stand for no reading.
             const uint percent = std::min(quality[0].toUInt(), 100u);
             numbers[NumberValue::Rssi] = percent == 0 ? 99 : std::lround(percent * top / 100);
         }

@@ -25,7 +25,7 @@ struct ServiceObjects
     QVariantMap location; ///< by the number of its source
 };
 
-/// The values of a modem; what is missing here, the modem doesn't have.
+/// The values of a modem. A value that is missing here, the modem does not have.
 struct Readings
 {
     std::map<TextValue, std::string> texts;

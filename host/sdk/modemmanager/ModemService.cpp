@@ -45,8 +45,8 @@ struct Attachment
 
     std::mutex mutex; ///< guards all below
     std::condition_variable changed;
-    int generation = 0; ///< of the worker; what an earlier one reports is no longer of use
-    int index = -1;     ///< of the wanted modem, negative when none is
+    int generation = 0; ///< number of the current worker; reports of earlier ones are dropped
+    int index = -1;     ///< number of the wanted modem; negative if none is
     ServiceStatus status = ServiceStatus::Starting;
     std::shared_ptr<ServiceModem> modem;
     ServiceModem::Clock::time_point validUntil;
@@ -65,11 +65,10 @@ Attachment &attachment()
     return attachment;
 }
 
-/// How long detach() waits for the worker. It ends at once, unless the bus takes its connection and
-/// then says nothing.
+/// How long detach() waits for the worker. The worker ends at once, unless the bus hangs.
 const unsigned long patience = 1000; // ms
 
-/// What the worker has seen.
+/// Takes a report of the worker.
 void report(int generation, ServiceStatus status, const std::shared_ptr<ServiceModem> &modem)
 {
     Attachment &state = attachment();

@@ -8,35 +8,33 @@
 
 #include <string>
 
-/// The modem of the system's modem service (ModemManager) behind libsdk.
+/// Attaches a modem of ModemManager, the system's modem service, to libsdk.
 ///
-/// The service is only read, but for one request: that it read the signal every 5 s, where nobody
-/// has asked it to yet. The SDK answers from what the service told last, which counts for 15 s;
-/// then its functions give VELT_ERROR_TIMEOUT. Without a modem, a service or a bus they give
-/// VELT_ERROR_NO_DEVICE. The modem's arrival, the end of its initialisation and its removal are
-/// raised as device events.
+/// libsdk reads from the service. It changes one thing: where nobody has set up the reading of the
+/// signal yet, it asks the service to read it every 5 s. The SDK's functions answer from the last
+/// reading. If the service has not confirmed that for 15 s, they give VELT_ERROR_TIMEOUT; without a
+/// modem, a service or a bus VELT_ERROR_NO_DEVICE. The modem's arrival, the end of its
+/// initialisation and its removal are raised as device events.
 ///
-/// Any thread may call these functions, callbacks of the SDK included (but for attach() and
-/// detach()). No call waits for the service, but for isPresent();
-/// detach() waits for the worker, 1 s at most.
+/// Any thread may call these functions; a callback of the SDK may not call attach() and detach().
+/// Only isPresent() waits for the service.
 namespace ModemService {
 
-/// Makes the service's modem the one attached modem, in place of a simulated one: the usable modem
-/// with this number, from 0 on. A modem that was away is taken again, whatever its number then is.
-/// Ends with detach(), which must come before the application object goes and before another modem
-/// is attached.
+/// Attaches the usable modem with this number, 0 for the first, in place of any other modem. If it
+/// goes and comes back, it is attached again, even under another number. Call detach() before the
+/// application object is deleted and before another modem is attached.
 SDK_EXPORT void attach(int index = 0);
 
-/// Takes the service's modem away, without any event. Does nothing when it isn't attached. False
-/// when the worker could not be ended, because the message bus hangs: the toolkit would then hang
-/// at the end of the program too, which should leave by std::_Exit().
+/// Ends attach(), without any event; does nothing if no modem of the service is attached. Waits for
+/// the worker thread, 1 s at most. Returns false if the thread hangs, because the message bus does:
+/// Qt would then hang at the end of the program as well, so leave by std::_Exit().
 SDK_EXPORT bool detach();
 
-/// Whether the service has told of the modem in time. Waits for its first answer, no longer than
-/// \a milliseconds.
+/// Returns true if the modem is there and its last reading still counts. Waits for the service's
+/// first answer, \a milliseconds at most.
 SDK_EXPORT bool isPresent(int milliseconds);
 
-/// What is missing or doesn't answer, a sentence for the user; empty while all is well.
+/// A sentence for the user that says what is missing or does not answer; empty if nothing is.
 SDK_EXPORT std::string problem();
 
 } // namespace ModemService

@@ -29,7 +29,7 @@ QVariant toPlain(const QDBusArgument &argument);
 QVariant toPlain(const QVariant &value)
 {
     if (value.userType() == qMetaTypeId<QDBusArgument>()) {
-        // Reading from one that isn't const would be taken for writing.
+        // QDBusArgument takes reading from an object that is not const for writing.
         const QDBusArgument argument = value.value<QDBusArgument>();
         return toPlain(argument);
     }
@@ -140,7 +140,7 @@ bool ServiceWatcher::connectBus()
     connectSignal(properties, "PropertiesChanged");
     connectSignal(objectManager, "InterfacesAdded");
     connectSignal(objectManager, "InterfacesRemoved");
-    // What is known is of the service on the bus before.
+    // What is kept is of the service on the bus before.
     m_messages.clear();
     m_signalAsked.invalidate();
     m_owner = std::make_unique<QDBusServiceWatcher>(service, m_bus,
@@ -154,7 +154,7 @@ bool ServiceWatcher::connectBus()
 
 void ServiceWatcher::onServiceOwnerChanged(const QString &newOwner)
 {
-    // A service that starts anew counts its objects anew.
+    // A new service numbers its objects anew.
     m_reading.reset();
     m_messages.clear();
     m_signalAsked.invalidate();
@@ -194,7 +194,7 @@ void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, con
     message.setArguments(arguments);
     message.setAutoStartService(false);
     ++reading->outstanding;
-    // The objects decide whether the service answers; a detail that hangs is only missing.
+    // Without the objects there is no reading; without a detail its values are missing.
     const bool isDetail = !reading->path.isEmpty();
     const int patience = isDetail ? qMin(detailTime, m_timing.confirmation) : m_timing.confirmation;
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(message, patience), this);
@@ -249,7 +249,7 @@ void ServiceWatcher::choose(const ReadingPointer &reading, const QVariantMap &ob
     const auto isKnown = [&](const QString &path) {
         return !m_identity.isEmpty() && identity(modemAt(path)) == m_identity;
     };
-    // Of modems that say they are the same the one under the path of before.
+    // Where several modems have the same identity, the one with the same path is taken.
     auto known = std::find(usable.cbegin(), usable.cend(), m_path);
     if (known == usable.cend() || !isKnown(m_path))
         known = std::find_if(usable.cbegin(), usable.cend(), isKnown);
@@ -298,7 +298,7 @@ void ServiceWatcher::askDetails(const ReadingPointer &reading)
     m_messages = kept;
 }
 
-/// The one request that changes something.
+/// Asks the service to read the signal. No other request changes anything in the service.
 void ServiceWatcher::setUpSignal(const Reading &reading)
 {
     const QString interface = QStringLiteral("Modem.Signal");

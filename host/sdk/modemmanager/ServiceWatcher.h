@@ -27,8 +27,9 @@ enum class ServiceStatus
     Answering
 };
 
-/// Watches the service and reports what it tells: at once, after each change, and every few
-/// seconds in between. Lives in a thread of its own, which no call to the service holds up.
+/// Reads the service's objects at once, after each change and every few seconds in between, and
+/// reports each reading. Lives in a thread of its own. All its calls to the service are
+/// asynchronous.
 class ServiceWatcher : public QObject
 {
     Q_OBJECT
@@ -42,7 +43,7 @@ public:
     ~ServiceWatcher() override;
 
 private slots:
-    /// Reads all objects. A reading that is running is left to end.
+    /// Reads all objects. Does nothing while a reading runs.
     void read();
     void readSoon();
 
@@ -75,7 +76,7 @@ private:
     QString m_identity;                    ///< of the modem that was taken first
     QString m_path;                        ///< of the modem that was taken last
     QElapsedTimer m_signalAsked;           ///< since the signal was last set up
-    QMap<QString, QVariantMap> m_messages; ///< by path; a stored message doesn't change
+    QMap<QString, QVariantMap> m_messages; ///< by path; a stored message does not change
 };
 
 #endif

@@ -135,7 +135,7 @@ VELT_ERROR SimulatedModem::readConnection(TextValue value, const std::string &,
 {
     std::string known;
     find(TextValue::Profile, known);
-    // The name comes from the SDK's user, in Latin-1.
+    // \a profile is Latin-1, like all texts of the SDK.
     if (!profile.empty() && profile != QString::fromStdString(known).toLatin1().toStdString())
         return VELT_ERROR_FAILURE;
     return find(value, text);

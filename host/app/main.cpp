@@ -1,16 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ConfigCheck.h"
-#include "DiagnosticsReader.h"
 #include "HostCore.h"
-#include "HostPlugins.h"
 #include "Log.h"
-#include "MainWindow.h"
-#include "ModemSource.h"
 #include "Options.h"
-#include "PluginLoader.h"
-#include "Report.h"
+#include "config/ConfigCheck.h"
+#include "modem/HostPlugins.h"
+#include "modem/ModemSource.h"
+#include "report/DiagnosticsReader.h"
+#include "report/Report.h"
+#include "window/MainWindow.h"
+#include "window/PluginLoader.h"
 
 #include <QApplication>
 #include <QCryptographicHash>

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ConfigCheck.h"
-#include "DiagnosticsReader.h"
-#include "HostPlugins.h"
-#include "MainWindow.h"
 #include "ModemControl.h"
-#include "ModemSource.h"
-#include "PluginLoader.h"
-#include "Report.h"
 #include "TestSupport.h"
+#include "config/ConfigCheck.h"
+#include "modem/HostPlugins.h"
+#include "modem/ModemSource.h"
+#include "report/DiagnosticsReader.h"
+#include "report/Report.h"
+#include "window/MainWindow.h"
+#include "window/PluginLoader.h"
 
 #include <QDialog>
 #include <QFormLayout>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "DiagnosticsReader.h"
+#include "report/DiagnosticsReader.h"
 
 #include <QApplication>
 #include <QDialog>

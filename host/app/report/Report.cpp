@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "Report.h"
+#include "report/Report.h"
 
 #include "core/Change.h"
 

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "HostPlugins.h"
+#include "modem/HostPlugins.h"
 
 #include "ModemControl.h"
-#include "ModemSource.h"
+#include "modem/ModemSource.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #ifndef REPORT_H
 #define REPORT_H
 
-#include "DiagnosticsReader.h"
+#include "report/DiagnosticsReader.h"
 
 #include <QPair>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ConfigCheck.h"
+#include "config/ConfigCheck.h"
 
-#include "ConfigSchema.h"
+#include "config/ConfigSchema.h"
 #include "core/Change.h"
 
 #include <QFile>

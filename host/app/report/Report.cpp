@@ -3,8 +3,11 @@
 
 #include "report/Report.h"
 
-#include "core/Change.h"
+#include "report/Masking.h"
 
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -15,62 +18,6 @@
 #include <cstdio>
 
 namespace {
-
-/// How much of a row's value stays readable. docs/report.md has the reasons.
-struct Mask
-{
-    const char *row;
-    int front;
-    int back;
-};
-
-// clang-format off
-const Mask Masks[] = {
-    {"IMEI",                        8, 0},
-    {"Serial number",               4, 2},
-    {"Cell ID",                     0, 0},
-    {"LAC Code",                    0, 0},
-    {"IMSI number",                 5, 2},
-    {"Own number(MSISDN)",          3, 2},
-    {"SMSC(Message center number)", 3, 2},
-    {"ICCID",                       7, 2},
-    {"IDS_MAINFRM_IMSI",            5, 2},
-    {"IDS_MAINFRM_ESN",             2, 0},
-    {"IDS_DIAGNOSE_MEID",           8, 0},
-};
-// clang-format on
-
-const char *const AddressRows[] = {"IP address", "DNS server"};
-
-/// A value that would hide fewer characters is hidden altogether: the rest could be guessed.
-const int FewestHidden = 6;
-
-const QChar Hidden = QLatin1Char('*');
-
-bool isUnknown(const QString &value)
-{
-    return value ==
-           Change::tr(QStringLiteral("IDS_MAINFRM_UNKNOWN"), QStringLiteral("DiagnosisPlugin"));
-}
-
-/// Leaves the separators and the first group of each address, which tells what kind it is.
-QString maskedAddresses(QString value)
-{
-    const QString separators = QStringLiteral(".:");
-    for (int start = 0, end; start < value.size(); start = end + 1) {
-        end = start;
-        while (end < value.size() && value.at(end) != QLatin1Char(',') && !value.at(end).isSpace())
-            ++end;
-        int index = start;
-        while (index < end && !separators.contains(value.at(index)))
-            ++index;
-        for (index = index == end ? start : index; index < end; ++index) {
-            if (!separators.contains(value.at(index)))
-                value[index] = Hidden;
-        }
-    }
-    return value;
-}
 
 /// A line of a value from the air must not look like a row, nor reach a terminal as a command.
 QString printable(QString value)
@@ -87,25 +34,46 @@ QString line(const QString &caption, const QString &value)
     return QStringLiteral("  %1: %2\n").arg(caption, printable(value));
 }
 
-} // namespace
-
-void Report::addFact(const QString &name, const QString &value)
+/// The sum of a configuration, which has no version of its own.
+QString sumOf(const QString &fileName)
 {
-    m_facts.append({name, value});
+    QFile file(fileName);
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    if (!file.open(QIODevice::ReadOnly) || !hash.addData(&file))
+        return QStringLiteral("missing");
+    return QStringLiteral("SHA-256 ") + QLatin1String(hash.result().toHex());
 }
 
-void Report::mask()
+} // namespace
+
+Report::Report(const QList<ShownPage> &pages, const Source &source, Identifiers identifiers)
+    : m_pages(pages)
 {
-    for (ShownPage &page : m_pages) {
-        for (ShownRow &row : page.rows)
-            row.value = masked(row);
+    const auto add = [this](const char *name, const QString &value) {
+        m_facts.append({QLatin1String(name), value});
+    };
+    const QDateTime now = QDateTime::currentDateTime();
+    add("Date", now.toOffsetFromUtc(now.offsetFromUtc()).toString(Qt::ISODate));
+    add("Host", QStringLiteral("diagnosis-host ") + QCoreApplication::applicationVersion());
+    add("Configuration", sumOf(source.configuration));
+    add("Toolkit", QStringLiteral("Qt ") + QLatin1String(qVersion()));
+    add("Language", source.language);
+    add("Modem", source.modem);
+    if (!source.problem.isEmpty())
+        add("Problem", source.problem);
+    add("Identifiers", identifiers == Masked ? QStringLiteral("masked") : QStringLiteral("shown"));
+    if (identifiers == Masked) {
+        for (ShownPage &page : m_pages) {
+            for (ShownRow &row : page.rows)
+                row.value = maskedValue(row);
+        }
     }
 }
 
-QString Report::rows() const
+QString Report::rows(const QList<ShownPage> &pages)
 {
     QStringList blocks;
-    for (const ShownPage &page : m_pages) {
+    for (const ShownPage &page : pages) {
         QString block = page.title + QLatin1Char('\n');
         for (const ShownRow &row : page.rows)
             block += line(row.caption, row.value);
@@ -119,7 +87,7 @@ QString Report::text() const
     QString head = QStringLiteral("Report\n");
     for (const auto &fact : m_facts)
         head += line(fact.first, fact.second);
-    return head + QLatin1Char('\n') + rows();
+    return head + QLatin1Char('\n') + rows(m_pages);
 }
 
 QByteArray Report::json() const
@@ -128,11 +96,10 @@ QByteArray Report::json() const
     for (const ShownPage &page : m_pages) {
         QJsonArray rows;
         for (const ShownRow &row : page.rows)
-            rows.append(QJsonObject{
-                {QStringLiteral("name"), row.name},
-                {QStringLiteral("caption"), row.caption},
-                {QStringLiteral("value"), row.value},
-                {QStringLiteral("known"), !row.value.isEmpty() && !isUnknown(row.value)}});
+            rows.append(QJsonObject{{QStringLiteral("name"), row.name},
+                                    {QStringLiteral("caption"), row.caption},
+                                    {QStringLiteral("value"), row.value},
+                                    {QStringLiteral("known"), row.isKnown()}});
         tabs.append(
             QJsonObject{{QStringLiteral("name"), page.name.isNull() ? QJsonValue() : page.name},
                         {QStringLiteral("caption"), page.title},
@@ -162,24 +129,4 @@ bool Report::write(const QByteArray &content, const QString &fileName, QString *
         QStringLiteral("cannot write %1: %2")
             .arg(toOutput ? QStringLiteral("to standard output") : fileName, file.errorString());
     return false;
-}
-
-QString Report::masked(const ShownRow &row)
-{
-    if (isUnknown(row.value))
-        return row.value;
-    for (const char *name : AddressRows) {
-        if (row.name == QLatin1String(name))
-            return maskedAddresses(row.value);
-    }
-    for (const Mask &mask : Masks) {
-        if (row.name != QLatin1String(mask.row))
-            continue;
-        const int length = row.value.size();
-        const int hidden = length - mask.front - mask.back;
-        return hidden < FewestHidden ? QString(length, Hidden)
-                                     : row.value.left(mask.front) + QString(hidden, Hidden) +
-                                           row.value.right(mask.back);
-    }
-    return row.value;
 }

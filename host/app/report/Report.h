@@ -8,34 +8,39 @@
 
 #include <QPair>
 
-/// What the diagnostics window shows, as text and as JSON, with the facts that whoever reads it
-/// elsewhere needs.
+/// What the diagnostics window shows, as text and as JSON, below a head with the facts that a
+/// reader elsewhere needs.
 class Report
 {
 public:
-    explicit Report(const QList<ShownPage> &pages) : m_pages(pages) {}
+    enum Identifiers
+    {
+        Unmasked,
+        Masked ///< values that tell the device, its user or its place are hidden by maskedValue()
+    };
 
-    /// Adds a fact of the head, in this order.
-    void addFact(const QString &name, const QString &value);
+    /// Where the pages come from.
+    struct Source
+    {
+        QString configuration; ///< the file that the window was made of
+        QString language;
+        QString modem;
+        QString problem; ///< of the modem; empty if there is none
+    };
 
-    /// Hides what names the device, its user or its place, by masked().
-    void mask();
+    Report(const QList<ShownPage> &pages, const Source &source, Identifiers identifiers);
 
-    /// All pages: a line for each title, one for each row, an empty line between pages.
-    QString rows() const;
+    /// A line for each title, one for each row, and an empty line between pages.
+    static QString rows(const QList<ShownPage> &pages);
 
     /// The head, and all pages.
     QString text() const;
 
     QByteArray json() const;
 
-    /// Writes to a file, or to standard output where its name is null or "-". False, with the
-    /// reason in *\a error, when not all could be written; then an earlier file is still there.
+    /// Writes to a file, or to standard output if its name is null or "-". Returns false, with the
+    /// reason in *\a error, if not all could be written; then an earlier file is still there.
     static bool write(const QByteArray &content, const QString &fileName, QString *error);
-
-    /// A row's value with '*' for each character that must not be public, chosen by the row's
-    /// configured name. The unknown text and the values of other rows stay.
-    static QString masked(const ShownRow &row);
 
 private:
     QList<QPair<QString, QString>> m_facts;

@@ -12,9 +12,9 @@
 #include "DiagnosticsUIPlugin.h"
 
 #include "HostCore.h"
-#include "HostPlugins.h"
 #include "SdkControl.h"
 #include "core/CommonUtils.h"
+#include "modem/HostPlugins.h"
 #include "sdk/VeltDevice.h"
 #include "simulated/SimulatedModem.h"
 

@@ -3,6 +3,8 @@
 
 #include "Options.h"
 
+#include "ExitCode.h"
+
 #include <QCommandLineParser>
 
 #include <algorithm>

@@ -7,20 +7,6 @@
 #include <QString>
 #include <QStringList>
 
-/// Scripts know these numbers.
-enum ExitCode
-{
-    Success = 0,
-    WrongUsage = 1,
-    PluginMissing = 2,
-    WrongInterface = 3,
-    InitFailed = 4,
-    WindowNotOpened = 5,
-    FileNotWritten = 6,
-    ConfigHasFindings = 7,
-    FileNotRead = 8
-};
-
 /// What the command line asks for. Texts that it does not give are null.
 struct Options
 {

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLocale>
 #include <QTranslator>
 
 #include <memory>
@@ -63,4 +64,19 @@ QStringList HostCore::languages(const QString &folder)
     for (QString &name : names)
         name = name.mid(5, name.size() - 8);
     return names;
+}
+
+QString HostCore::systemLanguage(const QString &folder)
+{
+    const QString system = QLocale::system().name(); // "zh_CN", "de_AT"
+    for (const QString &name : {system, system.section(QLatin1Char('_'), 0, 0)}) {
+        if (languages(folder).contains(name))
+            return name;
+    }
+    return QStringLiteral("en");
+}
+
+QString HostCore::pluginText(const QString &key)
+{
+    return Change::tr(key, QStringLiteral("DiagnosisPlugin"));
 }

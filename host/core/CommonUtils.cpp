@@ -3,7 +3,6 @@
 
 #include "core/CommonUtils.h"
 #include "HostCore.h"
-#include "core/Change.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -41,9 +40,7 @@ protected:
 
 QString buttonText(const QString &text)
 {
-    return text.startsWith(QLatin1String("IDS_"))
-               ? Change::tr(text, QStringLiteral("DiagnosisPlugin"))
-               : text;
+    return text.startsWith(QLatin1String("IDS_")) ? HostCore::pluginText(text) : text;
 }
 
 } // namespace

@@ -33,6 +33,12 @@ CORE_EXPORT bool setLanguage(const QString &folder, const QString &language);
 /// The languages that \a folder has files for, sorted.
 CORE_EXPORT QStringList languages(const QString &folder);
 
+/// The language of the system if \a folder has a file for it, else English.
+CORE_EXPORT QString systemLanguage(const QString &folder);
+
+/// The text of the diagnostics plug-in for a resource key.
+CORE_EXPORT QString pluginText(const QString &key);
+
 /// What Startup::GetPluginContainer() gives; null for none. Not owned.
 CORE_EXPORT void setPluginContainer(PluginContainer *container);
 

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ConfigCheck.h"
-#include "DiagnosticsReader.h"
-#include "HostPlugins.h"
-#include "MainWindow.h"
-#include "ModemSource.h"
-#include "PluginLoader.h"
-#include "Report.h"
 #include "SdkControl.h"
 #include "TestSupport.h"
+#include "config/ConfigCheck.h"
+#include "modem/HostPlugins.h"
+#include "modem/ModemSource.h"
+#include "report/DiagnosticsReader.h"
+#include "report/Masking.h"
+#include "window/MainWindow.h"
+#include "window/PluginLoader.h"
 
 #include <QDialog>
 #include <QFormLayout>
@@ -168,7 +168,7 @@ private Q_SLOTS:
     void mask()
     {
         QFETCH(QStringList, fields);
-        QCOMPARE(Report::masked({fields.at(1), QString(), fields.at(2)}), fields.at(3));
+        QCOMPARE(maskedValue({fields.at(1), QString(), fields.at(2)}), fields.at(3));
     }
 
     /// The shipped window, read as the host reads it; its longest page, of 15 rows, has nothing
@@ -179,8 +179,7 @@ private Q_SLOTS:
         HostCore::setPluginLibraryPath(built.filePath(HOST_LIBRARY_DIR));
         HostCore::applyLook(*qApp);
         const HostPlugins hostPlugins;
-        PluginLoader loader(
-            built.filePath(HOST_LIBRARY_DIR "/plugins/DiagnosisPlugin/libDiagnosisPlugin.so"));
+        PluginLoader loader(built.filePath(HOST_PLUGIN_DIR "/libDiagnosisPlugin.so"));
         QVERIFY2(loader.start(), qPrintable(loader.error()));
         for (const char *language : {"de", "en"}) {
             QVERIFY(HostCore::setLanguage(built.filePath(HOST_DATA_DIR "/translations"), language));

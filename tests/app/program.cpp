@@ -56,7 +56,7 @@ private Q_SLOTS:
         const QTemporaryDir root;
         const QDir built(DIAG_BINARY_DIR);
         const QString libraries = HOST_LIBRARY_DIR "/";
-        const QString plugins = libraries + "plugins/DiagnosisPlugin/";
+        const QString plugins = HOST_PLUGIN_DIR "/";
         for (const QString &folder : QStringList{"bin", plugins, "share"})
             QVERIFY(QDir(root.path()).mkpath(folder));
         const QString program = root.filePath("bin/diagnosis-host");

@@ -4,12 +4,12 @@
 // The window on the virtual modem, and how long the GUI thread is kept, whatever the service does.
 
 #include "HostCore.h"
-#include "HostPlugins.h"
-#include "ModemSource.h"
-#include "PluginLoader.h"
 #include "TestSupport.h"
 #include "VirtualModem.h"
+#include "modem/HostPlugins.h"
+#include "modem/ModemSource.h"
 #include "modemmanager/ModemService.h"
+#include "window/PluginLoader.h"
 
 #include "interfaces/INotify.h"
 #include "interfaces/IUIPlugin.h"

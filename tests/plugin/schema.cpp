@@ -3,9 +3,9 @@
 
 // The schema of the configuration against the rows that have values.
 
-#include "ConfigSchema.h"
 #include "DiagnosticsUIPlugin.h"
 #include "PluginTest.h"
+#include "config/ConfigSchema.h"
 
 #include <QFile>
 #include <QRegularExpression>

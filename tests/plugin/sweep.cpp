@@ -9,9 +9,9 @@
 #include "PluginTest.h"
 
 #include "HostCore.h"
-#include "HostPlugins.h"
 #include "SdkControl.h"
 #include "core/Change.h"
+#include "modem/HostPlugins.h"
 #include "sdk/VeltDevice.h"
 
 #include <QDialog>

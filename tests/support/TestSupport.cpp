@@ -3,9 +3,9 @@
 
 #include "TestSupport.h"
 
-#include "DiagnosticsReader.h"
 #include "HostCore.h"
 #include "SdkControl.h"
+#include "report/DiagnosticsReader.h"
 
 #include <QApplication>
 #include <QCoreApplication>

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ModemWindow.h"
+#include "window/ModemWindow.h"
 
-#include "ModemSource.h"
 #include "SdkControl.h"
+#include "modem/ModemSource.h"
 
 #include <QFormLayout>
 #include <QHBoxLayout>

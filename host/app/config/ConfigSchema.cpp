@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ConfigSchema.h"
+#include "config/ConfigSchema.h"
 
 #include <QXmlStreamReader>
 

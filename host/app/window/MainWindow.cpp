@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "MainWindow.h"
+#include "window/MainWindow.h"
 
-#include "ModemSource.h"
-#include "PluginLoader.h"
 #include "interfaces/INotify.h"
 #include "interfaces/IUIPlugin.h"
+#include "modem/ModemSource.h"
+#include "window/PluginLoader.h"
 
 #include <QCloseEvent>
 #include <QLabel>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ModemSource.h"
+#include "modem/ModemSource.h"
 
 #include "SdkControl.h"
 #include "modemmanager/ModemService.h"

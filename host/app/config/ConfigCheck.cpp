@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "ConfigCheck.h"
+#include "config/ConfigCheck.h"
 
-#include "ConfigSchema.h"
-#include "core/Change.h"
+#include "config/CaptionRules.h"
+#include "config/ConfigSchema.h"
 
 #include <QFile>
 #include <QHash>
@@ -74,16 +74,6 @@ QString text(const xmlChar *characters)
     return QString::fromUtf8(reinterpret_cast<const char *>(characters));
 }
 
-QString caption(const QString &resourceKey)
-{
-    return Change::tr(resourceKey, QStringLiteral("DiagnosisPlugin"));
-}
-
-QString quoted(const QString &text)
-{
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
-
 /// The check of a document. The parser calls it for each element, and then the validator that is
 /// plugged in behind it, whose errors therefore concern the current element.
 class Check
@@ -109,11 +99,6 @@ private:
         QHash<QString, QString> attributes;
         QHash<QString, int> offsets; ///< of the attributes
     };
-    struct Text
-    {
-        QString text;
-        int offset;
-    };
 
     static Check *from(void *self) { return static_cast<Check *>(self); }
     static void onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *);
@@ -128,19 +113,15 @@ private:
     Position position(int offset) const;
     void add(int offset, const QString &text);
     void checkStart();
-    int indexOf(const QString &part) const;
-    void checkDocument();
 
     const QByteArray m_document;
     const QMap<QString, QStringList> m_rowsOfTabs;
     xmlParserCtxtPtr m_parser = nullptr;
     QList<Element> m_open;
     Element m_current;
-    QString m_text;         ///< since the last tag
-    int m_root = -1;        ///< offset, once there is one that the plug-in reads
-    QList<Text> m_captions; ///< of the tabs that are shown
-    QList<Text> m_wordings;
-    bool m_hasCommonWording = false;
+    QString m_text;  ///< since the last tag
+    int m_root = -1; ///< offset, once there is one that the plug-in reads
+    CaptionRules m_captions;
     QMultiMap<Position, QString> m_findings;
     QSet<Position> m_explained; ///< where the validator has nothing to add
 };
@@ -161,8 +142,10 @@ void Check::run(xmlSchemaPtr schema)
         handler.cdataBlock = onText;
         handler.endElementNs = onEnd;
         parse(handler, validator.get());
-        if (m_root >= 0)
-            checkDocument();
+        if (m_root >= 0) {
+            for (const CaptionRules::Text &finding : m_captions.findings(m_root))
+                add(finding.offset, finding.text);
+        }
     }
     xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
@@ -261,7 +244,8 @@ void Check::onEnd(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
     Check *const check = from(self);
     check->m_current = check->m_open.takeLast();
     if (check->m_current.name == QLatin1String("simmsgprompt"))
-        check->m_wordings.append({check->m_text, check->m_current.offset});
+        check->m_captions.addWording(check->m_text, check->m_current.offset,
+                                     check->m_current.parent == QLatin1String("common"));
 }
 
 void Check::onSyntaxError(void *self, ErrorPointer error)
@@ -318,60 +302,21 @@ void Check::checkStart()
     } else if (m_current.name == QLatin1String("tab")) {
         if (m_current.parent == QLatin1String("veltdoc") &&
             attribute("show") != QLatin1String("false"))
-            m_captions.append({caption(attribute("resourceID")), offset("resourceID")});
+            m_captions.addTab(attribute("resourceID"), offset("resourceID"));
     } else if (m_current.name == QLatin1String("item")) {
         const QString tab = m_open.last().attributes.value(QStringLiteral("name"));
         const QStringList rows = m_rowsOfTabs.value(tab);
         const QString row = attribute("name");
         if (m_current.parent == QLatin1String("tab") && !rows.isEmpty() && !row.isNull() &&
             !rows.contains(row))
-            add(offset("name"), QStringLiteral("The tab %1 has no row %2, which shows the unknown "
-                                               "text. It has: %3.")
-                                    .arg(quoted(tab), quoted(row), rows.join(QLatin1String(", "))));
+            add(offset("name"),
+                QStringLiteral("The tab \"%1\" has no row \"%2\", which shows the unknown "
+                               "text. It has: %3.")
+                    .arg(tab, row, rows.join(QLatin1String(", "))));
     } else if (m_current.name == QLatin1String("common")) {
-        if (!m_wordings.isEmpty())
+        if (m_captions.hasWording())
             add(m_current.offset,
                 QStringLiteral("Its wording replaces all earlier ones, for every device."));
-    } else if (m_current.name == QLatin1String("simmsgprompt")) {
-        m_hasCommonWording |= m_current.parent == QLatin1String("common");
-    }
-}
-
-/// The first text that contains another one, or -1.
-int Check::indexOf(const QString &part) const
-{
-    for (int index = 0; index < m_captions.size(); ++index) {
-        if (m_captions.at(index).text.contains(part, Qt::CaseInsensitive))
-            return index;
-    }
-    return -1;
-}
-
-/// What only the whole document shows. The window finds tabs by their captions.
-void Check::checkDocument()
-{
-    if (m_captions.isEmpty())
-        add(m_root, QStringLiteral("No tab is shown."));
-    if (!m_hasCommonWording)
-        add(m_root, QStringLiteral("Without a <simmsgprompt> in <common>, the SIM tab has no title "
-                                   "where no <customize> holds."));
-    for (int index = 0; index < m_captions.size(); ++index) {
-        const Text &own = m_captions.at(index);
-        const int found = indexOf(own.text);
-        if (!own.text.isEmpty() && found != index)
-            add(own.offset, QStringLiteral("The tab stays blank: its caption, %1, is part of the "
-                                           "earlier one %2.")
-                                .arg(quoted(own.text), quoted(m_captions.at(found).text)));
-    }
-    const int simTab = indexOf(QStringLiteral("sim"));
-    for (const Text &wording : m_wordings) {
-        // The first tab is filled before it gets the wording as its title.
-        if (simTab > 0 && wording.text != QLatin1String("SIM/USIM") &&
-            indexOf(wording.text) != simTab)
-            add(wording.offset,
-                QStringLiteral("With this title the SIM tab stays blank: its caption, %1, must be "
-                               "the first that contains it.")
-                    .arg(quoted(m_captions.at(simTab).text)));
     }
 }
 

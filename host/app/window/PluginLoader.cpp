@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "PluginLoader.h"
+#include "window/PluginLoader.h"
 
 #include "interfaces/INotify.h"
 #include "interfaces/IUIPlugin.h"

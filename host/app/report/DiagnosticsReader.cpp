@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "DiagnosticsReader.h"
+#include "report/DiagnosticsReader.h"
+
+#include "HostCore.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -64,6 +66,11 @@ QList<ShownRow> rowsOf(const QWidget *page)
 }
 
 } // namespace
+
+bool ShownRow::isKnown() const
+{
+    return !value.isEmpty() && value != HostCore::pluginText(QStringLiteral("IDS_MAINFRM_UNKNOWN"));
+}
 
 DiagnosticsReader::DiagnosticsReader(QWidget *window) : m_window(window) {}
 

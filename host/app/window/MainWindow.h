@@ -4,7 +4,7 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-#include "ModemWindow.h"
+#include "window/ModemWindow.h"
 
 class PluginLoader;
 

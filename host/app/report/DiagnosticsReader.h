@@ -15,6 +15,9 @@ struct ShownRow
     QString name; ///< the configured name; in the window of CDMA devices the resource key
     QString caption;
     QString value;
+
+    /// Whether the value is neither empty nor the unknown text.
+    bool isKnown() const;
 };
 
 struct ShownPage

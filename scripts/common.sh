@@ -44,16 +44,15 @@ packaging_packages=(
     file
 )
 
-# build PRESET [TARGET...]: configures once, then builds what has changed.
+# build PRESET [TARGET...]: configures, so that a build folder follows the presets and CI, and builds what
+# has changed.
 build() {
     local preset=$1
     shift
-    if [ ! -f "build/$preset/build.ninja" ]; then
-        cmake --preset "$preset" >configure.log 2>&1 || {
-            cat configure.log >&2
-            exit 1
-        }
-        rm configure.log
-    fi
+    mkdir -p build
+    cmake --preset "$preset" >build/configure.log 2>&1 || {
+        cat build/configure.log >&2
+        exit 1
+    }
     cmake --build --preset "$preset" ${@:+--target "$@"}
 }

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 # SPDX-License-Identifier: MIT
 
-# What the commands share. To be sourced from the top folder.
+# Functions of the commands. Source it from the top folder.
 
 # install_packages PACKAGE...: installs what is missing, on Debian and its relatives.
 install_packages() {
@@ -34,7 +34,7 @@ build_packages=(
     libqt5svg5 # for the window's icon
     ninja-build
     qtbase5-dev
-    qttranslations5-l10n # for the toolkit's own dialogs
+    qttranslations5-l10n # for Qt's own dialogs
     qttools5-dev
     qttools5-dev-tools
 )
@@ -44,8 +44,8 @@ packaging_packages=(
     file
 )
 
-# build PRESET [TARGET...]: configures, so that a build folder follows the presets and CI, and builds what
-# has changed.
+# build PRESET [TARGET...]: configures, since the presets or CI may have changed, and builds what has
+# changed.
 build() {
     local preset=$1
     shift

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Whether nothing says where windows could be shown.
+/// Whether the environment names no place to show windows.
 bool lacksDisplay()
 {
     for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
@@ -32,7 +32,7 @@ void setEnvironment(bool offscreen)
 {
     if (offscreen)
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Nothing here draws with OpenGL; loading its drivers would only slow the start.
+    // The host does not use OpenGL. Loading its drivers would slow down the start.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
 }
@@ -74,7 +74,7 @@ int main(int argc, char *argv[])
     HostCore::applyLook(application);
     if (!modem.attach(options.modem, &error))
         return fail(WrongUsage, error);
-    // The option -platform may have chosen one that can be seen without these variables.
+    // Qt's option -platform may have chosen another platform, whose windows can be seen.
     const bool unseen = noDisplay && QApplication::platformName() == QLatin1String("offscreen");
     const int code = unseen && !options.endsByItself() ? Commands::showUnseen(modem, options)
                                                        : Commands::show(modem, options);

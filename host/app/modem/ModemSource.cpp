@@ -15,7 +15,7 @@ const QString serviceName = QStringLiteral("modemmanager");
 const QString automatic = QStringLiteral("auto");
 const QString simulatedDefault = QStringLiteral("wcdma");
 
-/// How long the start may wait for the service's first answer.
+/// How long the program waits for the service's first answer at the start.
 const int firstAnswer = 1000; // ms
 
 } // namespace
@@ -112,6 +112,6 @@ QString ModemSource::value(const char *key)
     const std::string ofService = ModemService::value(key);
     if (!ofService.empty())
         return QString::fromStdString(ofService);
-    // The encoding of all texts of the device.
+    // Texts of a device are Latin-1.
     return QString::fromLatin1(ModemControl::value(key).c_str());
 }

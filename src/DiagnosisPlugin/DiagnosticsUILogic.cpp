@@ -62,12 +62,12 @@ QString textOf(const CodeText (&table)[size], int code, const char *other)
 
 // clang-format off
 const CodeText RegistrationStates[] = {
-    {0, "IDS_LANG_NOT_REGISTERED"},
-    {1, "IDS_LANG_REGISTERED"},
-    {2, "IDS_LANG_REGISTERING"},
-    {3, "IDS_LANG_REG_DENIED"},
-    {4, UnknownKey},
-    {5, "IDS_LANG_ROAMING"},
+    {VELT_REG_NOT_REGISTERED, "IDS_LANG_NOT_REGISTERED"},
+    {VELT_REG_HOME,           "IDS_LANG_REGISTERED"},
+    {VELT_REG_SEARCHING,      "IDS_LANG_REGISTERING"},
+    {VELT_REG_DENIED,         "IDS_LANG_REG_DENIED"},
+    {VELT_REG_UNKNOWN,        UnknownKey},
+    {VELT_REG_ROAMING,        "IDS_LANG_ROAMING"},
 };
 
 const CodeText DeviceTypes[] = {
@@ -77,14 +77,14 @@ const CodeText DeviceTypes[] = {
 };
 
 const CodeText SelectionModes[] = {
-    {0, "IDS_LANG_AUTOMATIC"},
-    {1, "IDS_LANG_MANUAL"},
+    {VELT_SELECTION_AUTOMATIC, "IDS_LANG_AUTOMATIC"},
+    {VELT_SELECTION_MANUAL,    "IDS_LANG_MANUAL"},
 };
 
 const CodeText PsAttachments[] = {
-    {0,   "IDS_LANG_NOT_ATTACHED"},
-    {1,   "IDS_LANG_ATTACHED"},
-    {255, UnknownKey},
+    {VELT_PS_DETACHED, "IDS_LANG_NOT_ATTACHED"},
+    {VELT_PS_ATTACHED, "IDS_LANG_ATTACHED"},
+    {VELT_PS_UNKNOWN,  UnknownKey},
 };
 
 const CodeText PinStates[] = {
@@ -138,12 +138,11 @@ QString esnField(const char *function, char (VELT_ESN_INFO::*field)[size])
     return text.toString();
 }
 
-/// Cell ID and location area code: only report mode 2 has them, so the device is put into that mode
-/// between two calls. It stays in it.
+/// Cell ID or location area code. The device reports them in one report mode only, so it is put
+/// into that mode between two calls, and stays in it.
 template <std::size_t size>
 QString locationField(const char *function, char (VELT_REG_STATE::*field)[size])
 {
-    const int32_t stateAndLocation = 2;
     qDebug("%s: %s: %s: called", LOG_AS(function));
     VELT_REG_STATE state = VELT_REG_STATE();
     qDebug("=======> %s: %s: %s: calling VELT_NetSrv_GetCSRegState(%d)", LOG_AS(function),
@@ -153,8 +152,8 @@ QString locationField(const char *function, char (VELT_REG_STATE::*field)[size])
            state.reportMode, result);
     if (result != VELT_SUCCESS)
         return QString();
-    if (state.reportMode != stateAndLocation)
-        VELT_NetSrv_SetCSRegReport(stateAndLocation);
+    if (state.reportMode != VELT_REG_REPORT_LOCATION)
+        VELT_NetSrv_SetCSRegReport(VELT_REG_REPORT_LOCATION);
     qDebug("=======> %s: %s: %s: calling VELT_NetSrv_GetCSRegState(%s)", LOG_AS(function),
            SdkText<size>(state.*field).text());
     result = VELT_NetSrv_GetCSRegState(&state);
@@ -523,7 +522,6 @@ QString DiagnosticsUILogic::GetNetworkType()
 
 QString DiagnosticsUILogic::getNetwork()
 {
-    const uint8_t utran = 2;
     qDebug("%s: %s: %s: called", LOG_AT);
     int32_t mode = -1;
     VELT_OPERATOR plmn = VELT_OPERATOR();
@@ -532,7 +530,7 @@ QString DiagnosticsUILogic::getNetwork()
     qDebug("<======= %s: %s: %s: VELT_NetSrv_GetCurPlmn() returned %li:", LOG_AT, result);
     if (result != VELT_SUCCESS)
         return QString();
-    return QLatin1String(plmn.accessTechnology == utran ? "3G" : "UNKNOWN");
+    return QLatin1String(plmn.accessTechnology == VELT_ACCESS_UTRAN ? "3G" : "UNKNOWN");
 }
 
 QString DiagnosticsUILogic::GetSelectionMode()
@@ -581,7 +579,7 @@ QString DiagnosticsUILogic::GetPsRegister()
 QString DiagnosticsUILogic::GetPsAttachment()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
-    int32_t state = 255;
+    int32_t state = VELT_PS_UNKNOWN;
     qDebug("=======> %s: %s: %s: calling VELT_NetSrv_GetPSState(%d):", LOG_AT, state);
     const VELT_ERROR result = VELT_NetSrv_GetPSState(&state);
     qDebug("<======== %s: %s: %s: VELT_NetSrv_GetPSState(%d) returned %li:", LOG_AT, state, result);
@@ -680,15 +678,14 @@ QString DiagnosticsUILogic::GetLACCode()
 
 QString DiagnosticsUILogic::GetSimStatus()
 {
-    const int32_t roaming = 240;
     qDebug("%s: %s: %s: called", LOG_AT);
-    int32_t status = 255;
+    int32_t status = VELT_SIM_NONE;
     qDebug("========> %s: %s: %s: calling VELT_DevSrv_GetSimStatus(%d)", LOG_AT, status);
     const VELT_ERROR result = VELT_DevSrv_GetSimStatus(&status);
     qDebug("========> %s: %s: %s: VELT_DevSrv_GetSimStatus(%d) returned", LOG_AT, status);
     if (result != VELT_SUCCESS)
         return QString();
-    return QLatin1String(status == roaming ? "Roaming" : "Unknown");
+    return QLatin1String(status == VELT_SIM_ROAMING ? "Roaming" : "Unknown");
 }
 
 QString DiagnosticsUILogic::GetPinStatus()

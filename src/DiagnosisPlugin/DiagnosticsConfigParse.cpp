@@ -212,8 +212,9 @@ void DiagnosticsConfigParse::populateHash(QCoreXmlStreamReader &reader)
             return;
         m_strCustomizeActive = QLatin1String("false");
         m_strValue = reader.readElementText();
-        if (m_pHashCustomization && !reader.hasError())
-            m_pHashCustomization->insert(reader.name().toString(), m_strValue);
+        // After an error the reader may stand on another element, or on none.
+        if (m_pHashCustomization && isNamed(reader, SimPromptElement))
+            m_pHashCustomization->insert(QLatin1String(SimPromptElement), m_strValue);
     }
 }
 

@@ -316,12 +316,11 @@ int DiagnosticsCdmaUI::createCdmaLabels()
             result = Missing;
             break;
         }
-        caption->setText(tr(key));
+        DiagnosticsRow::setUp(caption, value, key, tr(key));
         int textWidth = 0;
         int rowHeight = 0;
         CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
         caption->setMinimumSize(CaptionWidth, rowHeight);
-        DiagnosticsRow::setUp(caption, value, key);
         value->setText(getLabelValuebyName(key));
         value->setFixedHeight(rowHeight);
         layout->addRow(caption, value);
@@ -394,9 +393,9 @@ void DiagnosticsCdmaUI::changeSimString()
     for (const char *key : {SimMessagesKey, SimContactsKey})
         DiagnosticsRow::replaceSimWording(m_pwidgetCdmaDiagnostic, QLatin1String(key),
                                           QLatin1String("UIM"));
-    QLabel *esn = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, QLatin1String(EsnKey));
-    if (m_bPesn && esn)
-        esn->setText(tr(QLatin1String("IDS_MAINFRM_PESN")));
+    if (m_bPesn)
+        DiagnosticsRow::setCaption(m_pwidgetCdmaDiagnostic, QLatin1String(EsnKey),
+                                   tr(QLatin1String("IDS_MAINFRM_PESN")));
 }
 
 void DiagnosticsCdmaUI::onRefreshClicked()

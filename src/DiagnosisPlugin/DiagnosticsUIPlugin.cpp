@@ -514,9 +514,8 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
             result = Missing;
             break;
         }
-        caption->setText(tr(item.resourceID));
+        DiagnosticsRow::setUp(caption, value, item.name, tr(item.resourceID));
         caption->setFixedWidth(CaptionWidth);
-        DiagnosticsRow::setUp(caption, value, item.name);
         value->setWordWrap(true);
         layout->addRow(caption, value);
     }

@@ -10,7 +10,7 @@
 //
 // The host and the modem
 //   configuration XML | write FILE TEXT | remove FILE      in the plug-in's folder
-//   language NAME | host STATE                             see setHost()
+//   language NAME | text KEY=TEXT | host STATE             see setHost()
 //   modem NAME | set KEY=VALUE;... | fail FUNCTION[=CODE [filled]] | unplug | plug | event CODE
 //   Init | ShowWindow | Notify CODE | OnDestroy | ReleaseData | drop-rows
 //   delete-parent | delete-plug-in
@@ -31,6 +31,7 @@
 
 #include "HostCore.h"
 #include "ModemControl.h"
+#include "core/Change.h"
 #include "interfaces/IDialupUIService.h"
 #include "interfaces/INetConnectSetting.h"
 #include "interfaces/IStatusBarUI.h"
@@ -47,6 +48,7 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <dlfcn.h>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -57,6 +59,8 @@ namespace {
 
 typedef DiagnosticsUILogic Logic;
 typedef DiagnosticsConfigParse Store;
+
+QMap<QString, QString> hostTexts; ///< by resource key, in place of the host's
 
 /// The getters of the query layer by their names.
 const std::map<QString, std::function<QString(Logic *)>> getters = {
@@ -154,6 +158,14 @@ QString escape(const QString &text)
 
 } // namespace
 
+// In front of libcore's.
+QString Change::tr(const QString &key, const QString &context)
+{
+    static const auto translate = reinterpret_cast<QString (*)(const QString &, const QString &)>(
+        dlsym(RTLD_NEXT, "_ZN6Change2trERK7QStringS2_"));
+    return hostTexts.contains(key) ? hostTexts[key] : translate(key, context);
+}
+
 class ScriptTest : public PluginTest
 {
     Q_OBJECT
@@ -238,6 +250,7 @@ void ScriptTest::init()
     HostCore::setSettingsFile(path("host.ini"));
     m_calls.clear();
     m_quiet = false;
+    hostTexts.clear();
     m_recorder.contexts.clear();
     QCoreApplication::installTranslator(&m_recorder);
 }
@@ -302,6 +315,7 @@ void ScriptTest::initTestCase()
         {"write", [this](A a) { write(a.section(' ', 0, 0), a.section(' ', 1).toUtf8()); }},
         {"remove", [this](A a) { QFile::remove(file(a)); }},
         {"language", [](A a) { setLanguage(qPrintable(a)); }},
+        {"text", [](A a) { hostTexts[a.section('=', 0, 0)] = a.section('=', 1); }},
         {"host", [this](A a) { setHost(a); }},
         {"modem", [](A a) { attachModem(qPrintable(a)); }},
         {"set", [](A a) { setValues(a); }},
@@ -467,10 +481,23 @@ void ScriptTest::sayTabOrder()
     say(order.join(", "));
 }
 
-/// What assistive technology is told the value of a row is of.
+/// What assistive technology is told the value of a row is of, and whether the caption is drawn
+/// otherwise than its text stands: an ampersand can be taken for the mark of a shortcut.
 void ScriptTest::sayCaption(const QString &row)
 {
     auto *value = window()->findChild<QLabel *>("DiagnosticsUIPlugin_label" + row + "Value");
+    auto *caption = window()->findChild<QLabel *>("DiagnosticsUIPlugin_label" + row);
+    QLabel plain(caption->text(), caption->parentWidget());
+    plain.setAlignment(caption->alignment());
+    plain.resize(caption->size());
+    const auto draw = [](QWidget *label) {
+        QImage image(label->size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        label->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        return image;
+    };
+    if (draw(caption) != draw(&plain))
+        say("drawn otherwise than " + caption->text());
     for (const auto &relation :
          QAccessible::queryAccessibleInterface(value)->relations(QAccessible::Label))
         say(relation.first->text(QAccessible::Name) + ": " + value->text());

@@ -4,6 +4,7 @@
 #include "DiagnosticsConfigParse.h"
 
 #include "DiagnosticsLog.h"
+#include "DiagnosticsSdkText.h"
 
 #include "core/CommonUtils.h"
 #include "sdk/VeltDevice.h"
@@ -242,12 +243,12 @@ void DiagnosticsConfigParse::readTabInfo(QCoreXmlStreamReader &reader)
 
 QString DiagnosticsConfigParse::getCustomizeName()
 {
-    char name[VELT_SIZE_CUSTOMIZE_NAME + 1] = ""; // a name may fill the buffer without a zero
-    qDebug("=======> %s: %s: %s: Calling VELT_DevSrv_getCustomizeName: %s", LOG_AT, name);
-    const VELT_ERROR result = VELT_DevSrv_GetCustomizeName(name);
+    SdkText<VELT_SIZE_CUSTOMIZE_NAME> name;
+    qDebug("=======> %s: %s: %s: Calling VELT_DevSrv_getCustomizeName: %s", LOG_AT, name.text());
+    const VELT_ERROR result = VELT_DevSrv_GetCustomizeName(name.buffer());
     qDebug("=======> %s: %s: %s: VELT_DevSrv_getCustomizeName returned %li", LOG_AT, result);
     if (result != VELT_SUCCESS)
         return QString();
-    qDebug("=======> %s: %s: %s: VELT_DevSrv_getCustomizeName success: %s", LOG_AT, name);
-    return QString::fromLatin1(name);
+    qDebug("=======> %s: %s: %s: VELT_DevSrv_getCustomizeName success: %s", LOG_AT, name.text());
+    return name.toString();
 }

@@ -5,6 +5,7 @@
 
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsSdkText.h"
 
 #include "core/CommonUtils.h"
 #include "core/Startup.h"
@@ -16,7 +17,6 @@
 #include "sdk/VeltPhonebook.h"
 #include "sdk/VeltSms.h"
 
-#include <cstring>
 #include <memory>
 #include <new>
 
@@ -25,23 +25,6 @@ namespace {
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUILogic";
 
 const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
-
-/// A text buffer of the SDK, or a copy of a text field: zeroed, and with room for the zero that a
-/// text filling all of its bytes lacks. Texts of the SDK are Latin-1.
-template <std::size_t size>
-class SdkText
-{
-public:
-    SdkText() : m_text() {}
-    explicit SdkText(const char (&field)[size]) : m_text() { std::memcpy(m_text, field, size); }
-
-    char *buffer() { return m_text; }
-    const char *text() const { return m_text; }
-    QString toString() const { return QString::fromLatin1(m_text); }
-
-private:
-    char m_text[size + 1];
-};
 
 struct CodeText
 {
@@ -758,20 +741,16 @@ QString DiagnosticsUILogic::GetOwnNumber()
 
 QString DiagnosticsUILogic::GetSMSC()
 {
-    const int unitCount = VELT_SIZE_SMS_CENTRE / 2;
     qDebug("%s: %s: %s: called", LOG_AT);
     int32_t length = 0;
-    uint16_t number[unitCount + 1] = {}; // a number may fill the buffer without a zero
-    VELT_ERROR result = VELT_SMSSrv_GetSMSCentreNumber(&length, number, 0);
+    SdkText<VELT_SIZE_SMS_CENTRE / sizeof(uint16_t), uint16_t> number;
+    VELT_ERROR result = VELT_SMSSrv_GetSMSCentreNumber(&length, number.buffer(), 0);
     if (result != VELT_SUCCESS)
         return QString();
     qDebug("=======> %s: %s: %s: Calling VELT_SMSSrv_GetSMSCentreNumber(%d,%d)", LOG_AT, length,
            length);
-    result = VELT_SMSSrv_GetSMSCentreNumber(&length, number, length);
-    int units = 0;
-    while (number[units] != 0)
-        ++units;
-    const QString text(reinterpret_cast<const QChar *>(number), units);
+    result = VELT_SMSSrv_GetSMSCentreNumber(&length, number.buffer(), length);
+    const QString text = number.toString();
     qDebug("<======= %s: %s: %s: VELT_SMSSrv_GetSMSCentreNumber()returned VALUE: %s, "
            "VELT_ERROR = %li:",
            LOG_AT, text.toLocal8Bit().constData(), result);

@@ -6,11 +6,12 @@
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
+#include "DiagnosticsText.h"
 #include "DiagnosticsToolkit.h"
 #include "DiagnosticsUILogic.h"
 
-#include "core/Change.h"
 #include "core/CommonUtils.h"
 #include "core/ExtendDialog.h"
 
@@ -25,23 +26,16 @@
 
 #include <new>
 
+using namespace DiagnosticsResult;
+
 namespace {
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsCdmaUI";
-
-enum
-{
-    Success = 0,
-    CannotOpen = 3,
-    Missing = 13
-};
 
 const int PlainFrame = 1; // the host frame's widget type
 const int CaptionWidth = 185;
 const int FrameWidth = 356;
 const int FrameHeightPerRow = 35;
-const int SimStorage = 1;
-const int DeviceStorage = 2;
 
 const char SimMessagesKey[] = "IDS_MAINFRM_SIM_MESSAGE_CONTENT_PROMPT";
 const char SimContactsKey[] = "IDS_MAINFRM_SIM_CONTACT_CONTENT";
@@ -55,7 +49,6 @@ const char PrlKey[] = "IDS_DIAGNOSE_PRL_VER";
 const char CarriersKey[] = "IDS_NUM_CARRIERS_PROMPT";
 const char EsnKey[] = "IDS_MAINFRM_ESN";
 const char MeidKey[] = "IDS_DIAGNOSE_MEID";
-const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
 
 /// What the key of a row asks the query layer.
 struct ValueRow
@@ -129,7 +122,7 @@ DiagnosticsCdmaUI::~DiagnosticsCdmaUI()
 
 QString DiagnosticsCdmaUI::tr(QString key)
 {
-    return Change::tr(key, QLatin1String("DiagnosisPlugin"));
+    return DiagnosticsText::of(key);
 }
 
 /// The configured value; empty where there is none.
@@ -364,11 +357,11 @@ QString DiagnosticsCdmaUI::getLabelValue(QString key)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return tr(QLatin1String(UnknownKey));
+        return DiagnosticsText::unknown();
     if (key == QLatin1String(SimMessagesKey))
-        return m_pLogic->GetMessageCount(SimStorage);
+        return m_pLogic->GetMessageCount(DiagnosticsUILogic::SimStorage);
     if (key == QLatin1String(DeviceMessagesKey))
-        return m_pLogic->GetMessageCount(DeviceStorage);
+        return m_pLogic->GetMessageCount(DiagnosticsUILogic::DeviceStorage);
     if (key == QLatin1String(CarriersKey)) {
         const QString count = m_pLogic->GetMulticarrier();
         return count.isEmpty() ? tr(QLatin1String("IDS_CARRIERS_NUM_NA")) : count;
@@ -377,14 +370,14 @@ QString DiagnosticsCdmaUI::getLabelValue(QString key)
         if (key == QLatin1String(row.key))
             return (m_pLogic->*row.get)();
     }
-    return tr(QLatin1String(UnknownKey));
+    return DiagnosticsText::unknown();
 }
 
 QString DiagnosticsCdmaUI::getLabelValuebyName(QString key)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     const QString value = getLabelValue(key);
-    return value.isEmpty() ? tr(QLatin1String(UnknownKey)) : value;
+    return value.isEmpty() ? DiagnosticsText::unknown() : value;
 }
 
 void DiagnosticsCdmaUI::changeSimString()

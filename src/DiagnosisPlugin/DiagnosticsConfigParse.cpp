@@ -4,6 +4,7 @@
 #include "DiagnosticsConfigParse.h"
 
 #include "DiagnosticsLog.h"
+#include "DiagnosticsResult.h"
 #include "DiagnosticsSdkText.h"
 
 #include "core/CommonUtils.h"
@@ -12,6 +13,8 @@
 #include <QFile>
 
 #include <new>
+
+using namespace DiagnosticsResult;
 
 namespace {
 
@@ -30,12 +33,6 @@ const char NameAttribute[] = "name";
 const char ValueAttribute[] = "value";
 const char ShowAttribute[] = "show";
 const char ResourceAttribute[] = "resourceID";
-
-enum
-{
-    Success = 0,
-    CannotLoad = 3
-};
 
 bool isNamed(const QCoreXmlStreamReader &reader, const char *element)
 {
@@ -109,16 +106,16 @@ unsigned int DiagnosticsConfigParse::LoadFile(QString fileName)
     QFile file(path);
     if (!file.exists()) {
         qDebug("%s: %s: %s: called", LOG_AT);
-        return CannotLoad;
+        return CannotOpen;
     }
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         qDebug("%s: %s: %s: Error open file:%s", LOG_AT, path.toLocal8Bit().constData());
-        return CannotLoad;
+        return CannotOpen;
     }
     QCoreXmlStreamReader reader(&file);
     const bool complete = readFile(reader);
     file.close();
-    return complete ? Success : CannotLoad;
+    return complete ? Success : CannotOpen;
 }
 
 QList<TabDetails> *DiagnosticsConfigParse::GetTabInformation()

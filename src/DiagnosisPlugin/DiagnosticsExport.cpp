@@ -3,7 +3,8 @@
 
 #include "DiagnosticsExport.h"
 
-#include "core/Change.h"
+#include "DiagnosticsText.h"
+
 #include "core/CommonUtils.h"
 
 #include <QDir>
@@ -13,16 +14,12 @@
 
 namespace {
 
-QString text(const char *key)
+void showOutcome(QWidget *parent, const char *captionKey, const char *messageKey)
 {
-    return Change::tr(QLatin1String(key), QLatin1String("DiagnosisPlugin"));
-}
-
-void showOutcome(QWidget *parent, const QString &caption, const QString &message)
-{
-    CommonUtils::ShowMessage(QMessageBox::Information, parent, caption, message,
-                             QLatin1String("IDS_OK"), QLatin1String(""), QLatin1String(""), true,
-                             Qt::WindowCloseButtonHint, nullptr, QString(), true);
+    CommonUtils::ShowMessage(
+        QMessageBox::Information, parent, DiagnosticsText::of(QLatin1String(captionKey)),
+        DiagnosticsText::of(QLatin1String(messageKey)), QLatin1String("IDS_OK"), QLatin1String(""),
+        QLatin1String(""), true, Qt::WindowCloseButtonHint, nullptr, QString(), true);
 }
 
 } // namespace
@@ -44,11 +41,11 @@ QString DiagnosticsExport::askPath(QWidget *parent)
 
 void DiagnosticsExport::showSuccess(QWidget *parent)
 {
-    showOutcome(parent, text("IDS_PROMPT_CAPTION"), text("IDS_EXPORTSUCCESS_PROMPT"));
+    showOutcome(parent, "IDS_PROMPT_CAPTION", "IDS_EXPORTSUCCESS_PROMPT");
 }
 
 // An information box too: an export that failed is told, not alarmed about.
 void DiagnosticsExport::showFailure(QWidget *parent)
 {
-    showOutcome(parent, text("IDS_ERROR_CAPTION"), text("IDS_EXPORTFAILURE_PROMPT"));
+    showOutcome(parent, "IDS_ERROR_CAPTION", "IDS_EXPORTFAILURE_PROMPT");
 }

@@ -6,6 +6,7 @@
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsLog.h"
 #include "DiagnosticsSdkText.h"
+#include "DiagnosticsText.h"
 
 #include "core/CommonUtils.h"
 #include "core/Startup.h"
@@ -24,7 +25,7 @@ namespace {
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUILogic";
 
-const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
+using DiagnosticsText::UnknownKey;
 
 struct CodeText
 {
@@ -207,6 +208,8 @@ Interface *hostPlugin(const char *function, const char *classIdentifier, int plu
 
 DiagnosticsUILogic *DiagnosticsUILogic::_Instance = nullptr;
 int DiagnosticsUILogic::m_iInstanceCount = 0;
+const int DiagnosticsUILogic::SimStorage = VELT_SMS_SIM;
+const int DiagnosticsUILogic::DeviceStorage = VELT_SMS_DEVICE;
 
 DiagnosticsUILogic::DiagnosticsUILogic() : QObject(nullptr), m_pConfigParse(nullptr)
 {

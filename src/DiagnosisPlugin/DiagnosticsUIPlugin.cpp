@@ -7,10 +7,11 @@
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
+#include "DiagnosticsText.h"
 #include "DiagnosticsUILogic.h"
 
-#include "core/Change.h"
 #include "core/CommonUtils.h"
 #include "core/ExtendDialog.h"
 
@@ -24,6 +25,8 @@
 #include <QVBoxLayout>
 
 #include <new>
+
+using namespace DiagnosticsResult;
 
 /// What the configured name of a row asks the query layer.
 struct DiagnosticsUIPlugin::ValueRow
@@ -39,17 +42,9 @@ typedef DiagnosticsUIPlugin::ValueRow ValueRow;
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUIPlugin";
 
-enum
-{
-    Success = 0,
-    CannotOpen = 3,
-    Missing = 13
-};
-
 const int PlainFrame = 1; // the host frame's widget type
 const int CaptionWidth = 185;
 
-const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
 const char SimMessagesItem[] = "Messages in SIM/USIM";
 const char SimContactsItem[] = "Contacts in SIM/USIM";
 
@@ -230,12 +225,7 @@ void DiagnosticsUIPlugin::onButtonCancelClicked()
 
 QString DiagnosticsUIPlugin::tr(QString key)
 {
-    return Change::tr(key, QLatin1String("DiagnosisPlugin"));
-}
-
-QString DiagnosticsUIPlugin::unknownText()
-{
-    return tr(QLatin1String(UnknownKey));
+    return DiagnosticsText::of(key);
 }
 
 int DiagnosticsUIPlugin::DoModal()
@@ -583,7 +573,7 @@ void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QWidget *labels)
         if (m_bDeviceAvailable || isReadWithoutDevice(item.name))
             getValueLabelVal(tab.name, item.name, &value);
         else
-            value = unknownText();
+            value = DiagnosticsText::unknown();
         label->setText(value);
     }
 }
@@ -644,14 +634,14 @@ void DiagnosticsUIPlugin::getValueLabelVal(QString tabName, QString itemName, QS
     else if (tabName == QLatin1String("Network status"))
         *value = getNetSetTabItemValue(itemName);
     if (value->isEmpty())
-        *value = unknownText();
+        *value = DiagnosticsText::unknown();
 }
 
 /// What a row of the dispatch says now; null stands for a name that no row has.
 QString DiagnosticsUIPlugin::valueOf(const ValueRow *row)
 {
     if (!row)
-        return unknownText();
+        return DiagnosticsText::unknown();
     const QString value = (m_pLogic->*row->get)();
     return row->translated ? tr(value) : value;
 }
@@ -660,7 +650,7 @@ QString DiagnosticsUIPlugin::getDeviceNetTabItemValue(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
+        return DiagnosticsText::unknown();
     return valueOf(findRow(DeviceRows, itemName));
 }
 
@@ -668,10 +658,10 @@ QString DiagnosticsUIPlugin::getNetSetTabItemValue(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
+        return DiagnosticsText::unknown();
     if (itemName == QLatin1String("RSSI")) {
         const QString level = m_pLogic->GetRSSI();
-        return level == QLatin1String(UnknownKey) ? tr(level) : level;
+        return level == QLatin1String(DiagnosticsText::UnknownKey) ? tr(level) : level;
     }
     const ValueRow *row = findRow(NetworkRows, itemName);
     return row ? valueOf(row) : getNetSetTabItemValueVer2(itemName);
@@ -681,7 +671,7 @@ QString DiagnosticsUIPlugin::getNetSetTabItemValueVer2(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
+        return DiagnosticsText::unknown();
     return valueOf(findRow(RegistrationRows, itemName));
 }
 
@@ -689,11 +679,9 @@ QString DiagnosticsUIPlugin::getSimTabItemValue(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
-    if (itemName == QLatin1String(SimMessagesItem)) {
-        const int simStorage = 1;
-        return m_pLogic->GetMessageCount(simStorage);
-    }
+        return DiagnosticsText::unknown();
+    if (itemName == QLatin1String(SimMessagesItem))
+        return m_pLogic->GetMessageCount(DiagnosticsUILogic::SimStorage);
     if (itemName == QLatin1String("PIN code status")) {
         const QString key = m_pLogic->GetPinStatus();
         const QString text = tr(key);

@@ -101,7 +101,6 @@ private:
 
     bool isMarkable(int index) const;
     void showRows(const TabDetails &tab, QWidget *labels);
-    QString unknownText();
     QString valueOf(const ValueRow *row);
 
     DiagnosticsUILogic *m_pLogic;

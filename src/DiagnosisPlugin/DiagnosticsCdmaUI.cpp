@@ -11,6 +11,7 @@
 #include "DiagnosticsText.h"
 #include "DiagnosticsToolkit.h"
 #include "DiagnosticsUILogic.h"
+#include "DiagnosticsWindow.h"
 
 #include "core/CommonUtils.h"
 #include "core/ExtendDialog.h"
@@ -32,8 +33,6 @@ namespace {
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsCdmaUI";
 
-const int PlainFrame = 1; // the host frame's widget type
-const int CaptionWidth = 185;
 const int FrameWidth = 356;
 const int FrameHeightPerRow = 35;
 
@@ -125,12 +124,6 @@ QString DiagnosticsCdmaUI::tr(QString key)
     return DiagnosticsText::of(key);
 }
 
-/// The configured value; empty where there is none.
-QString DiagnosticsCdmaUI::setting(const char *key) const
-{
-    return m_pHashSetting ? m_pHashSetting->value(QLatin1String(key)) : QString();
-}
-
 // ---- The window ----
 
 bool DiagnosticsCdmaUI::ShowCdmaDiagWidget(QWidget *parent)
@@ -155,9 +148,7 @@ bool DiagnosticsCdmaUI::ShowCdmaDiagWidget(QWidget *parent)
     m_pdialogCdmaDiagnostics->changeSize(m_pwidgetCdmaDiagnostic->sizeHint());
     m_pdialogCdmaDiagnostics->setWindowModality(Qt::WindowModal);
     m_pdialogCdmaDiagnostics->setWindowTitle(tr(QLatin1String("IDS_PLUGIN_NAME")));
-    m_pdialogCdmaDiagnostics->setVisible(true);
-    CommonUtils::MoveCentre(m_pdialogCdmaDiagnostics);
-    m_pdialogCdmaDiagnostics->setAttribute(Qt::WA_DeleteOnClose);
+    DiagnosticsWindow::show(m_pdialogCdmaDiagnostics);
     qDebug("%s: %s: %s: Creation of dialog is successful", LOG_AT);
     return true;
 }
@@ -195,8 +186,7 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
         qDebug("%s: %s: %s: Config instance is null", LOG_AT);
         return Missing;
     }
-    m_pdialogCdmaDiagnostics =
-        new (std::nothrow) ExtendDialog(parent, Qt::WindowCloseButtonHint, PlainFrame);
+    m_pdialogCdmaDiagnostics = DiagnosticsWindow::createFrame(parent);
     if (!m_pdialogCdmaDiagnostics) {
         qDebug("%s: %s: %s: Memory Allocation Failed for main dialog", LOG_AT);
         return Missing;
@@ -251,7 +241,7 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
     m_pframeCdmaDiag->setFixedHeight(m_iRowCount * FrameHeightPerRow);
     m_pframeCdmaDiag->setFixedWidth(FrameWidth);
 
-    if (setting("SaveButton") == QLatin1String("true")) {
+    if (DiagnosticsWindow::hasSaveButton(m_pHashSetting)) {
         m_ppushButtonCdmaSave = new (std::nothrow) QPushButton(m_pframeCdmaDiag);
         if (!m_ppushButtonCdmaSave) {
             qDebug("%s: %s: %s: Creation of Save Button Failed", LOG_AT);
@@ -260,28 +250,19 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
         m_ppushButtonCdmaSave->setObjectName(
             QLatin1String("DiagnosticsUIPlugin_pushButtonCdmaSave"));
         qDebug("%s: %s: %s: bSetVisible is false", LOG_AT);
-        m_ppushButtonCdmaSave->setText(tr(QLatin1String("IDS_MAINFRM_SAVE_PROMPT")));
-        connect(m_ppushButtonCdmaSave, SIGNAL(clicked()), this, SLOT(onSaveClicked()));
+        DiagnosticsWindow::setUpButton(m_ppushButtonCdmaSave, "IDS_MAINFRM_SAVE_PROMPT", this,
+                                       SLOT(onSaveClicked()));
     }
-    m_ppushButtonCdmaRefresh->setText(tr(QLatin1String("IDS_MAINFRM_REFRESH_PROMPT")));
-    connect(m_ppushButtonCdmaRefresh, SIGNAL(clicked()), this, SLOT(onRefreshClicked()));
-    m_ppushButtonCdmaCancel->setText(tr(QLatin1String("IDS_MAINFRM_CANCEL_PROMPT")));
-    connect(m_ppushButtonCdmaCancel, SIGNAL(clicked()), this, SLOT(onCancelClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonCdmaRefresh, "IDS_MAINFRM_REFRESH_PROMPT", this,
+                                   SLOT(onRefreshClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonCdmaCancel, "IDS_MAINFRM_CANCEL_PROMPT", this,
+                                   SLOT(onCancelClicked()));
     connect(m_pdialogCdmaDiagnostics, SIGNAL(dlgCloseEvent()), this, SLOT(onDlgClose()));
 
     const int buttonSpacing = 5;
-    m_phboxLayoutCdmaBottom->setSpacing(0); // the style's own would add to it
-    m_phboxLayoutCdmaBottom->addWidget(
-        m_ppushButtonCdmaSave); // the toolkit passes over a missing one
-    m_phboxLayoutCdmaBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutCdmaBottom->addWidget(m_ppushButtonCdmaRefresh);
-    m_phboxLayoutCdmaBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutCdmaBottom->addWidget(m_ppushButtonCdmaCancel);
-    m_phboxLayoutCdmaBottom->setAlignment(Qt::AlignRight);
-    // With the Tab key as they stand, not as they were made.
-    if (m_ppushButtonCdmaSave)
-        QWidget::setTabOrder(m_ppushButtonCdmaSave, m_ppushButtonCdmaRefresh);
-    QWidget::setTabOrder(m_ppushButtonCdmaRefresh, m_ppushButtonCdmaCancel);
+    DiagnosticsWindow::layOutButtons(m_phboxLayoutCdmaBottom, m_ppushButtonCdmaSave,
+                                     m_ppushButtonCdmaRefresh, m_ppushButtonCdmaCancel,
+                                     buttonSpacing);
     return Success;
 }
 
@@ -313,7 +294,7 @@ int DiagnosticsCdmaUI::createCdmaLabels()
         int textWidth = 0;
         int rowHeight = 0;
         CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
-        caption->setMinimumSize(CaptionWidth, rowHeight);
+        caption->setMinimumSize(DiagnosticsRow::CaptionWidth, rowHeight);
         value->setText(getLabelValuebyName(key));
         value->setFixedHeight(rowHeight);
         layout->addRow(caption, value);
@@ -343,7 +324,8 @@ int DiagnosticsCdmaUI::populateList()
     if (!m_pLogic->GetPrlVersion().isEmpty())
         add(PrlKey);
     // Looser than the test of the Save button's setting.
-    if (setting("Carriers").contains(QLatin1String("true"), Qt::CaseInsensitive))
+    if (m_pHashSetting && m_pHashSetting->value(QLatin1String("Carriers"))
+                              .contains(QLatin1String("true"), Qt::CaseInsensitive))
         add(CarriersKey);
     add(EsnKey);
     if (m_pLogic->IsPesn()) {

@@ -14,6 +14,11 @@ class QWidget;
 class DiagnosticsRow
 {
 public:
+    enum
+    {
+        CaptionWidth = 185 ///< in pixels
+    };
+
     /// Names the two labels after the row, gives the caption its text and prepares the value for
     /// texts from outside.
     static void setUp(QLabel *caption, QLabel *value, const QString &rowName, const QString &text);

@@ -11,8 +11,8 @@
 #include "DiagnosticsRow.h"
 #include "DiagnosticsText.h"
 #include "DiagnosticsUILogic.h"
+#include "DiagnosticsWindow.h"
 
-#include "core/CommonUtils.h"
 #include "core/ExtendDialog.h"
 
 #include <QFile>
@@ -41,9 +41,6 @@ namespace {
 typedef DiagnosticsUIPlugin::ValueRow ValueRow;
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUIPlugin";
-
-const int PlainFrame = 1; // the host frame's widget type
-const int CaptionWidth = 185;
 
 const char SimMessagesItem[] = "Messages in SIM/USIM";
 const char SimContactsItem[] = "Contacts in SIM/USIM";
@@ -306,9 +303,7 @@ int DiagnosticsUIPlugin::createWcdmaDialog(QWidget *parent)
     m_pdialogDiagnostics->setWindowTitle(tr(QLatin1String("IDS_PLUGIN_NAME")));
     m_pdialogDiagnostics->setWindowModality(Qt::WindowModal);
     m_pdialogDiagnostics->setFixedSize(460, 426);
-    m_pdialogDiagnostics->setVisible(true);
-    CommonUtils::MoveCentre(m_pdialogDiagnostics);
-    m_pdialogDiagnostics->setAttribute(Qt::WA_DeleteOnClose);
+    DiagnosticsWindow::show(m_pdialogDiagnostics);
     return 1;
 }
 
@@ -319,8 +314,7 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
         qDebug("%s: %s: %s: Config instance is null", LOG_AT);
         return Missing;
     }
-    m_pdialogDiagnostics =
-        new (std::nothrow) ExtendDialog(parent, Qt::WindowCloseButtonHint, PlainFrame);
+    m_pdialogDiagnostics = DiagnosticsWindow::createFrame(parent);
     if (!m_pdialogDiagnostics) {
         qDebug("%s: %s: %s: Memory Allocation Failed for main dialog", LOG_AT);
         return Missing;
@@ -353,9 +347,7 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
         return Missing;
     }
 
-    const QHash<QString, QString> *settings = m_pConfigParse->GetSettingInformation();
-    const QString save = settings ? settings->value(QLatin1String("SaveButton")) : QString();
-    if (save == QLatin1String("true")) {
+    if (DiagnosticsWindow::hasSaveButton(m_pConfigParse->GetSettingInformation())) {
         m_ppushButtonSave = new (std::nothrow) QPushButton(m_pwidgetDiagnostic);
         if (!m_ppushButtonSave) {
             qDebug("%s: %s: %s: Creation of Save Button Failed", LOG_AT);
@@ -363,13 +355,13 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
         }
         m_ppushButtonSave->setObjectName(QLatin1String("DiagnosticsUIPlugin_pushButtonSave"));
         qDebug("%s: %s: %s: bSetVisible is false", LOG_AT);
-        m_ppushButtonSave->setText(tr(QLatin1String("IDS_MAINFRM_SAVE_PROMPT")));
-        connect(m_ppushButtonSave, SIGNAL(clicked()), this, SLOT(onButtonSaveClicked()));
+        DiagnosticsWindow::setUpButton(m_ppushButtonSave, "IDS_MAINFRM_SAVE_PROMPT", this,
+                                       SLOT(onButtonSaveClicked()));
     }
-    m_ppushButtonRefresh->setText(tr(QLatin1String("IDS_MAINFRM_REFRESH_PROMPT")));
-    m_ppushButtonCancel->setText(tr(QLatin1String("IDS_MAINFRM_CANCEL_PROMPT")));
-    connect(m_ppushButtonRefresh, SIGNAL(clicked()), this, SLOT(onButtonRefreshClicked()));
-    connect(m_ppushButtonCancel, SIGNAL(clicked()), this, SLOT(onButtonCancelClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonRefresh, "IDS_MAINFRM_REFRESH_PROMPT", this,
+                                   SLOT(onButtonRefreshClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonCancel, "IDS_MAINFRM_CANCEL_PROMPT", this,
+                                   SLOT(onButtonCancelClicked()));
     connect(m_pdialogDiagnostics, SIGNAL(dlgCloseEvent()), this, SLOT(onDlgClose()));
     // Connected after the tabs were added: the first one is filled by its creation.
     connect(m_ptabWidgetDiag, SIGNAL(currentChanged(int)), this, SLOT(onTabChange(int)));
@@ -408,19 +400,9 @@ int DiagnosticsUIPlugin::createLayout()
     m_phboxLayoutTop->addWidget(m_ptabWidgetDiag);
 
     const int buttonSpacing = 26;
-    m_phboxLayoutBottom->setSpacing(0);                // the style's own would add to it
-    m_phboxLayoutBottom->addWidget(m_ppushButtonSave); // the toolkit passes over a missing button
-    m_phboxLayoutBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutBottom->addWidget(m_ppushButtonRefresh);
-    m_phboxLayoutBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutBottom->addWidget(m_ppushButtonCancel);
+    DiagnosticsWindow::layOutButtons(m_phboxLayoutBottom, m_ppushButtonSave, m_ppushButtonRefresh,
+                                     m_ppushButtonCancel, buttonSpacing);
     m_phboxLayoutBottom->setContentsMargins(0, 0, 15, 0);
-    m_phboxLayoutBottom->setAlignment(Qt::AlignRight);
-    // With the Tab key as they stand, not as they were made.
-    if (m_ppushButtonSave)
-        QWidget::setTabOrder(m_ppushButtonSave, m_ppushButtonRefresh);
-    QWidget::setTabOrder(m_ppushButtonRefresh, m_ppushButtonCancel);
-    m_ppushButtonCancel->setFocus(Qt::OtherFocusReason);
     return Success;
 }
 
@@ -505,7 +487,7 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
             break;
         }
         DiagnosticsRow::setUp(caption, value, item.name, tr(item.resourceID));
-        caption->setFixedWidth(CaptionWidth);
+        caption->setFixedWidth(DiagnosticsRow::CaptionWidth);
         value->setWordWrap(true);
         layout->addRow(caption, value);
     }

@@ -16,7 +16,7 @@
 //   delete-parent | delete-plug-in
 //   open                                                   Init and ShowWindow, which succeed
 // The user
-//   visit INDEX | press BUTTON | close | Esc
+//   visit INDEX | press BUTTON | close | Esc | Enter
 //   save [FILE] [while DIALOG: COMMAND]                    no file cancels
 //   swap                                                   hides the shown window, shows the hidden
 // What there is to see
@@ -190,6 +190,7 @@ private:
     void setHost(const QString &state);
     void fail(const QString &function, const QString &code);
     void press(const QString &name);
+    void enter();
     void swap();
     void saveTo(const QString &name, QString meanwhile);
     void sayWindows();
@@ -339,6 +340,7 @@ void ScriptTest::initTestCase()
         {"press", [this](A a) { press(a); }},
         {"close", [this](A) { window()->close(); }},
         {"Esc", [this](A) { QTest::keyClick(window(), Qt::Key_Escape); }},
+        {"Enter", [this](A) { enter(); }},
         {"swap", [this](A) { swap(); }},
         {"save", [this](A a) { saveTo(a.section("while ", 0, 0), a.section("while ", 1)); }},
 
@@ -413,6 +415,20 @@ void ScriptTest::press(const QString &name)
         found->click();
     else
         say("no such button");
+}
+
+/// Presses Enter, and tells of a file dialog that this opens.
+void ScriptTest::enter()
+{
+    QTimer answers;
+    connect(&answers, &QTimer::timeout, [this] {
+        if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+            say("file dialog");
+            dialog->reject();
+        }
+    });
+    answers.start(1);
+    QTest::keyClick(window()->focusWidget(), Qt::Key_Enter);
 }
 
 /// Hides the windows that are shown, and shows the hidden ones.

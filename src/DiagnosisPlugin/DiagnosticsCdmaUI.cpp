@@ -381,9 +381,12 @@ void DiagnosticsCdmaUI::onRefreshClicked()
         return;
     }
     for (const QString &key : *m_plistCdma) {
-        QLabel *value = DiagnosticsRow::value(m_pwidgetCdmaDiagnostic, key);
-        if (value)
-            value->setText(getLabelValuebyName(key));
+        const QPointer<QLabel> label = DiagnosticsRow::value(m_pwidgetCdmaDiagnostic, key);
+        if (!label)
+            continue;
+        const QString value = getLabelValuebyName(key);
+        if (label) // the host may have closed the window meanwhile
+            label->setText(value);
     }
 }
 

@@ -49,12 +49,12 @@ void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowNam
 
 QLabel *DiagnosticsRow::caption(const QWidget *below, const QString &rowName)
 {
-    return below->findChild<QLabel *>(captionName(rowName));
+    return below ? below->findChild<QLabel *>(captionName(rowName)) : nullptr;
 }
 
 QLabel *DiagnosticsRow::value(const QWidget *below, const QString &rowName)
 {
-    return below->findChild<QLabel *>(valueName(rowName));
+    return below ? below->findChild<QLabel *>(valueName(rowName)) : nullptr;
 }
 
 void DiagnosticsRow::setCaption(const QWidget *below, const QString &rowName, const QString &text)

@@ -23,7 +23,7 @@ public:
     /// texts from outside.
     static void setUp(QLabel *caption, QLabel *value, const QString &rowName, const QString &text);
 
-    /// The labels of a row below a widget; null where there is none.
+    /// The labels of a row below a widget, which may be null; null where there is none.
     static QLabel *caption(const QWidget *below, const QString &rowName);
     static QLabel *value(const QWidget *below, const QString &rowName);
 

@@ -446,7 +446,7 @@ int DiagnosticsUIPlugin::dynamicTabCreation()
         }
     }
     onTabChange(0);
-    return result;
+    return m_ptabWidgetDiag ? result : Missing; // the host may have closed the window meanwhile
 }
 
 int DiagnosticsUIPlugin::createTab(TabDetails *tab)
@@ -540,15 +540,16 @@ bool DiagnosticsUIPlugin::isMarkable(int index) const
     return index >= 0 && index < m_iTabFilledCount;
 }
 
-/// Reads the shown rows of a tab into their value labels, to be found below \a labels.
-void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QWidget *labels)
+/// Reads the shown rows of a tab into their value labels, to be found below \a page. The host,
+/// which is asked for some values, may close the window meanwhile.
+void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QPointer<QWidget> page)
 {
-    if (!labels || !tab.items)
+    if (!tab.items)
         return;
     for (const TabItem &item : *tab.items) {
         if (!item.show)
             continue;
-        QLabel *label = DiagnosticsRow::value(labels, item.name);
+        const QPointer<QLabel> label = DiagnosticsRow::value(page, item.name);
         if (!label)
             continue;
         QString value;
@@ -556,7 +557,8 @@ void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QWidget *labels)
             getValueLabelVal(tab.name, item.name, &value);
         else
             value = DiagnosticsText::unknown();
-        label->setText(value);
+        if (label)
+            label->setText(value);
     }
 }
 

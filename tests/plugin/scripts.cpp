@@ -11,6 +11,7 @@
 // The host and the modem
 //   configuration XML | write FILE TEXT | remove FILE      in the plug-in's folder
 //   language NAME | text KEY=TEXT | host STATE             see setHost()
+//   asked KEY: COMMAND                                     when the host is next asked for KEY
 //   modem NAME | set KEY=VALUE;... | fail FUNCTION[=CODE [filled]] | unplug | plug | event CODE
 //   Init | ShowWindow | Notify CODE | OnDestroy | ReleaseData | drop-rows
 //   delete-parent | delete-plug-in
@@ -61,6 +62,7 @@ typedef DiagnosticsUILogic Logic;
 typedef DiagnosticsConfigParse Store;
 
 QMap<QString, QString> hostTexts; ///< by resource key, in place of the host's
+std::function<void(const QString &key)> hostIsAsked;
 
 /// The getters of the query layer by their names.
 const std::map<QString, std::function<QString(Logic *)>> getters = {
@@ -110,6 +112,7 @@ public:
 private:
     int give(const char *key, QString &text) const
     {
+        hostIsAsked(key);
         text = values[key];
         return result;
     }
@@ -163,6 +166,7 @@ QString Change::tr(const QString &key, const QString &context)
 {
     static const auto translate = reinterpret_cast<QString (*)(const QString &, const QString &)>(
         dlsym(RTLD_NEXT, "_ZN6Change2trERK7QStringS2_"));
+    hostIsAsked(key);
     return hostTexts.contains(key) ? hostTexts[key] : translate(key, context);
 }
 
@@ -241,6 +245,7 @@ private:
     TranslationRecorder m_recorder;
     QStringList m_said;  ///< what followed from a command
     QStringList m_calls; ///< of the SDK since the last "cost"
+    QString m_asked;     ///< "KEY: COMMAND"
     bool m_quiet = false;
 };
 
@@ -252,6 +257,11 @@ void ScriptTest::init()
     m_calls.clear();
     m_quiet = false;
     hostTexts.clear();
+    hostIsAsked = [this](const QString &key) {
+        if (m_asked.startsWith(key + ": "))
+            act(std::exchange(m_asked, QString()).section(": ", 1));
+    };
+    m_asked.clear();
     m_recorder.contexts.clear();
     QCoreApplication::installTranslator(&m_recorder);
 }
@@ -318,6 +328,7 @@ void ScriptTest::initTestCase()
         {"language", [](A a) { setLanguage(qPrintable(a)); }},
         {"text", [](A a) { hostTexts[a.section('=', 0, 0)] = a.section('=', 1); }},
         {"host", [this](A a) { setHost(a); }},
+        {"asked", [this](A a) { m_asked = a; }},
         {"modem", [](A a) { attachModem(qPrintable(a)); }},
         {"set", [](A a) { setValues(a); }},
         {"fail", [this](A a) { fail(a.section("=", 0, 0), a.section("=", 1)); }},

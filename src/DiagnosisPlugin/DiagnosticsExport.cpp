@@ -4,6 +4,7 @@
 #include "DiagnosticsExport.h"
 
 #include "DiagnosticsText.h"
+#include "DiagnosticsToolkit.h"
 
 #include "core/CommonUtils.h"
 
@@ -26,13 +27,17 @@ void showOutcome(QWidget *parent, const char *captionKey, const char *messageKey
 
 QString DiagnosticsExport::askPath(QWidget *parent)
 {
-    // The questions of QFileDialog::getSaveFileName(), but the dialog is on the heap, since a
-    // window that the host closes deletes it.
+    // What QFileDialog::getSaveFileName() asks, but the dialog is on the heap, since a window that
+    // the host closes deletes it. The start path has the proposed name too: without it, the dialog
+    // would start in the parent of a home folder that is missing.
+    const QLatin1String proposal("*.txt");
     const QPointer<QFileDialog> dialog(
-        new QFileDialog(parent, QString(), QDir::homePath(), QLatin1String("Text Files (*.txt)")));
+        new QFileDialog(parent, QString(), QDir::homePath() + QLatin1Char('/') + proposal,
+                        QLatin1String("Text Files (*.txt)")));
     dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->selectFile(QLatin1String("*.txt"));
+    dialog->selectFile(proposal);
+    offerLocalFiles(*dialog);
     const bool accepted = dialog->exec() == QDialog::Accepted;
     const QString path = accepted && dialog ? dialog->selectedFiles().value(0) : QString();
     delete dialog;

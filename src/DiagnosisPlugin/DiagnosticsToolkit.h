@@ -44,6 +44,17 @@ inline void setUtf8(QTextStream &stream)
 #endif
 }
 
+/// Lets a file dialog offer local files only. Qt 4 knows no others.
+template <typename FileDialog>
+void offerLocalFiles(FileDialog &dialog)
+{
+#if QT_VERSION >= 0x050600
+    dialog.setSupportedSchemes(QStringList(QLatin1String("file")));
+#else
+    Q_UNUSED(dialog)
+#endif
+}
+
 /// Ends the line and flushes the stream.
 inline QTextStream &endLine(QTextStream &stream)
 {

@@ -11,6 +11,7 @@
 // The host and the modem
 //   configuration XML | write FILE TEXT | remove FILE      in the plug-in's folder
 //   language NAME | text KEY=TEXT | host STATE             see setHost()
+//   home FOLDER                                            the user's, from the plug-in's
 //   asked KEY: COMMAND                                     when the host is next asked for KEY
 //   modem NAME | set KEY=VALUE;... | fail FUNCTION[=CODE [filled]] | unplug | plug | event CODE
 //   Init | ShowWindow | Notify CODE | OnDestroy | ReleaseData | drop-rows
@@ -245,7 +246,8 @@ private:
     TranslationRecorder m_recorder;
     QStringList m_said;  ///< what followed from a command
     QStringList m_calls; ///< of the SDK since the last "cost"
-    QString m_asked;     ///< "KEY: COMMAND"
+    const QDir m_home = QDir::home();
+    QString m_asked; ///< "KEY: COMMAND"
     bool m_quiet = false;
 };
 
@@ -269,6 +271,7 @@ void ScriptTest::init()
 void ScriptTest::cleanup()
 {
     QCoreApplication::removeTranslator(&m_recorder);
+    qputenv("HOME", m_home.path().toUtf8());
     delete m_plugins;
     m_plugins = nullptr;
     tearDown();
@@ -328,6 +331,7 @@ void ScriptTest::initTestCase()
         {"language", [](A a) { setLanguage(qPrintable(a)); }},
         {"text", [](A a) { hostTexts[a.section('=', 0, 0)] = a.section('=', 1); }},
         {"host", [this](A a) { setHost(a); }},
+        {"home", [this](A a) { qputenv("HOME", file(a).toUtf8()); }},
         {"asked", [this](A a) { m_asked = a; }},
         {"modem", [](A a) { attachModem(qPrintable(a)); }},
         {"set", [](A a) { setValues(a); }},
@@ -554,9 +558,10 @@ void ScriptTest::sayQuestion()
     const auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
     QString text;
     QDebug(&text) << dialog->nameFilters().join(", ")
-                  << QDir::home().relativeFilePath(dialog->directory().path())
+                  << m_home.relativeFilePath(dialog->directory().path())
                   << dialog->findChild<QLineEdit *>()->text() << dialog->acceptMode()
-                  << dialog->fileMode() << dialog->options() << dialog->defaultSuffix();
+                  << dialog->fileMode() << dialog->options() << dialog->defaultSuffix()
+                  << dialog->supportedSchemes().join(", ");
     say(text.trimmed());
 }
 

@@ -4,10 +4,10 @@
 #include "DiagnosticsCdmaUI.h"
 
 #include "DiagnosticsConfigParse.h"
-#include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
 #include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
+#include "DiagnosticsSaveDialogs.h"
 #include "DiagnosticsText.h"
 #include "DiagnosticsToolkit.h"
 #include "DiagnosticsUILogic.h"
@@ -396,9 +396,9 @@ void DiagnosticsCdmaUI::onSaveClicked()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     const QPointer<DiagnosticsCdmaUI> alive(this); // the host may destroy it meanwhile
-    const QString path = DiagnosticsExport::askPath(m_pwidgetCdmaDiagnostic);
+    const QString path = DiagnosticsSaveDialogs::askPath(m_pwidgetCdmaDiagnostic);
     if (alive && !path.isNull() && saveFile(path) != Success)
-        DiagnosticsExport::showFailure(m_pwidgetCdmaDiagnostic);
+        DiagnosticsSaveDialogs::showFailure(m_pwidgetCdmaDiagnostic);
 }
 
 int DiagnosticsCdmaUI::saveFile(QString fileName)
@@ -425,6 +425,6 @@ int DiagnosticsCdmaUI::saveFile(QString fileName)
         file.close();
     }
     qDebug("%s: %s: %s: file writing success", LOG_AT);
-    DiagnosticsExport::showSuccess(m_pwidgetCdmaDiagnostic);
+    DiagnosticsSaveDialogs::showSuccess(m_pwidgetCdmaDiagnostic);
     return Success;
 }

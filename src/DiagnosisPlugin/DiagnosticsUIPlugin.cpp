@@ -5,10 +5,10 @@
 
 #include "DiagnosticsCdmaUI.h"
 #include "DiagnosticsConfigParse.h"
-#include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
 #include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
+#include "DiagnosticsSaveDialogs.h"
 #include "DiagnosticsText.h"
 #include "DiagnosticsUILogic.h"
 #include "DiagnosticsWindow.h"
@@ -682,9 +682,9 @@ void DiagnosticsUIPlugin::onButtonSaveClicked()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     const QPointer<DiagnosticsUIPlugin> alive(this); // the host may delete it meanwhile
-    const QString path = DiagnosticsExport::askPath(m_pwidgetDiagnostic);
+    const QString path = DiagnosticsSaveDialogs::askPath(m_pwidgetDiagnostic);
     if (alive && !path.isNull() && saveToFile(path) != Success)
-        DiagnosticsExport::showFailure(m_pwidgetDiagnostic);
+        DiagnosticsSaveDialogs::showFailure(m_pwidgetDiagnostic);
 }
 
 int DiagnosticsUIPlugin::saveToFile(QString path)
@@ -722,7 +722,7 @@ int DiagnosticsUIPlugin::saveToFile(QString path)
         file.close();
     }
     qDebug("%s: %s: %s: file writing success", LOG_AT);
-    DiagnosticsExport::showSuccess(m_pwidgetDiagnostic);
+    DiagnosticsSaveDialogs::showSuccess(m_pwidgetDiagnostic);
     return Success;
 }
 

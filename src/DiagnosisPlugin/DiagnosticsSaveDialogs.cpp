@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "DiagnosticsExport.h"
+#include "DiagnosticsSaveDialogs.h"
 
 #include "DiagnosticsText.h"
 #include "DiagnosticsToolkit.h"
@@ -25,7 +25,7 @@ void showOutcome(QWidget *parent, const char *captionKey, const char *messageKey
 
 } // namespace
 
-QString DiagnosticsExport::askPath(QWidget *parent)
+QString DiagnosticsSaveDialogs::askPath(QWidget *parent)
 {
     // What QFileDialog::getSaveFileName() asks, but the dialog is on the heap, since a window that
     // the host closes deletes it. The start path has the proposed name too: without it, the dialog
@@ -44,13 +44,13 @@ QString DiagnosticsExport::askPath(QWidget *parent)
     return path;
 }
 
-void DiagnosticsExport::showSuccess(QWidget *parent)
+void DiagnosticsSaveDialogs::showSuccess(QWidget *parent)
 {
     showOutcome(parent, "IDS_PROMPT_CAPTION", "IDS_EXPORTSUCCESS_PROMPT");
 }
 
-// An information box too: an export that failed is told, not alarmed about.
-void DiagnosticsExport::showFailure(QWidget *parent)
+// With the information icon too.
+void DiagnosticsSaveDialogs::showFailure(QWidget *parent)
 {
     showOutcome(parent, "IDS_ERROR_CAPTION", "IDS_EXPORTFAILURE_PROMPT");
 }

@@ -23,7 +23,9 @@
 #include <QRect>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTextStream>
 #include <QTime>
+#include <QXmlStreamReader>
 
 #include <cstdio>
 #include <memory>
@@ -40,6 +42,13 @@ namespace {
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUILogic";
 
 void nothing() {}
+
+QTextStream &endLine(QTextStream &stream)
+{
+    stream << '\n';
+    stream.flush();
+    return stream;
+}
 
 void deleteLeftOvers()
 {

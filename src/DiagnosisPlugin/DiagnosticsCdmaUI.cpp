@@ -5,24 +5,22 @@
 
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsReportFile.h"
 #include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
 #include "DiagnosticsSaveDialogs.h"
 #include "DiagnosticsText.h"
-#include "DiagnosticsToolkit.h"
 #include "DiagnosticsUILogic.h"
 #include "DiagnosticsWindow.h"
 
 #include "core/CommonUtils.h"
 #include "core/ExtendDialog.h"
 
-#include <QFile>
 #include <QFormLayout>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QTextStream>
 #include <QVBoxLayout>
 
 #include <new>
@@ -408,22 +406,20 @@ int DiagnosticsCdmaUI::saveFile(QString fileName)
         qDebug("%s: %s: %s: m_plistCdma/ m_pdialogCdmaDiagnostics is null", LOG_AT);
         return Missing;
     }
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    DiagnosticsReportFile file(fileName);
+    if (!file.open()) {
         qDebug("%s: %s: %s: Error in opening file", LOG_AT);
         return CannotOpen;
     }
-    {
-        QTextStream stream(&file);
-        setUtf8(stream);
-        for (const QString &key : *m_plistCdma) {
-            const QString value = getLabelValuebyName(key);
-            const QLabel *caption = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, key);
-            if (caption)
-                stream << caption->text() << " " << value << endLine << endLine;
-        }
-        file.close();
+    for (const QString &key : *m_plistCdma) {
+        const QString value = getLabelValuebyName(key);
+        const QLabel *caption = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, key);
+        if (!caption)
+            continue;
+        file.writeRow(caption->text(), value);
+        file.writeLine();
     }
+    file.close();
     qDebug("%s: %s: %s: file writing success", LOG_AT);
     DiagnosticsSaveDialogs::showSuccess(m_pwidgetCdmaDiagnostic);
     return Success;

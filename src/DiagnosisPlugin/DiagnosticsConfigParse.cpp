@@ -11,6 +11,7 @@
 #include "sdk/VeltDevice.h"
 
 #include <QFile>
+#include <QXmlStreamReader>
 
 #include <new>
 

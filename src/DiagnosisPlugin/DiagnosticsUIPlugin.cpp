@@ -6,6 +6,7 @@
 #include "DiagnosticsCdmaUI.h"
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsReportFile.h"
 #include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
 #include "DiagnosticsSaveDialogs.h"
@@ -15,13 +16,11 @@
 
 #include "core/ExtendDialog.h"
 
-#include <QFile>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTextStream>
 #include <QVBoxLayout>
 
 #include <new>
@@ -690,37 +689,33 @@ void DiagnosticsUIPlugin::onButtonSaveClicked()
 int DiagnosticsUIPlugin::saveToFile(QString path)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
-    QFile file(path);
+    DiagnosticsReportFile file(path);
     if (!m_pConfigParse || !m_ptabWidgetDiag) {
         qDebug("%s: %s: %s: ConfigInstance or m_ptabWidgetDiag is null", LOG_AT);
         return Missing;
     }
     const QList<TabDetails> *tabs = m_pConfigParse->GetTabInformation();
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    if (!file.open()) {
         qDebug("%s: %s: %s: Error in opening file", LOG_AT);
         return CannotOpen;
     }
-    {
-        QTextStream stream(&file);
-        setUtf8(stream);
-        for (int index = 0; tabs && index < tabs->size(); ++index) {
-            const TabDetails &tab = tabs->at(index);
-            if (!tab.show)
+    for (int index = 0; tabs && index < tabs->size(); ++index) {
+        const TabDetails &tab = tabs->at(index);
+        if (!tab.show)
+            continue;
+        file.writeLine(tr(tab.resourceID));
+        for (int row = 0; tab.items && row < tab.items->size(); ++row) {
+            const TabItem &item = tab.items->at(row);
+            if (!item.show)
                 continue;
-            stream << tr(tab.resourceID) << endLine;
-            for (int row = 0; tab.items && row < tab.items->size(); ++row) {
-                const TabItem &item = tab.items->at(row);
-                if (!item.show)
-                    continue;
-                const QString caption = tr(item.resourceID);
-                QString value;
-                getValueLabelVal(tab.name, item.name, &value);
-                stream << caption << " " << value << endLine;
-            }
-            stream << endLine;
+            const QString caption = tr(item.resourceID);
+            QString value;
+            getValueLabelVal(tab.name, item.name, &value);
+            file.writeRow(caption, value);
         }
-        file.close();
+        file.writeLine();
     }
+    file.close();
     qDebug("%s: %s: %s: file writing success", LOG_AT);
     DiagnosticsSaveDialogs::showSuccess(m_pwidgetDiagnostic);
     return Success;

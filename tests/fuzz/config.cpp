@@ -13,6 +13,7 @@
 #include <QBuffer>
 #include <QLabel>
 #include <QTabWidget>
+#include <QXmlStreamReader>
 
 using namespace Fuzz;
 

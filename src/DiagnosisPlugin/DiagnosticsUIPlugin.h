@@ -76,8 +76,9 @@ public:
     QString getNetSetTabItemValueVer2(QString itemName);
     QString getSimTabItemValue(QString itemName);
 
-    /// Reads every shown row afresh and writes the report. Shows a message and returns 0 on success;
-    /// returns 3 if the file cannot be opened, and 13 without a window or after OnDestroy().
+    /// Reads every shown row afresh and writes the report. Shows a message and returns 0 on
+    /// success; returns 3 if the file cannot be opened, and 13 without a window or after
+    /// OnDestroy().
     int saveToFile(QString path);
 
     /// The text of a resource key. Pass the key as QString or QLatin1String: a string literal would

@@ -14,7 +14,7 @@
 
 namespace ServiceSupport {
 
-const ServiceTiming shortTiming{300, 1500};
+const ServiceTiming shortTiming{300, 2400};
 
 /// Names and values, "name = value", a pair a line or separated by "; ". A line that begins with
 /// '#' is a comment.

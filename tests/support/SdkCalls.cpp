@@ -53,6 +53,7 @@ const std::vector<TestedCall> calls = {
     {CALL(VELT_DevSrv_GetUserNumMemAbility, o.n, o.n + 1, o.n + 2, o.n + 3, o.n + 4), ""},
     {CALL(VELT_DevSrv_ReadUserNumItem, 24, &o.own), "24"},
     {CALL(VELT_DevSrv_ReadUserNumItem, 1, &o.own), "1"},
+    {CALL(VELT_DevSrv_ReadUserNumItem, 0, &o.own), "0"},
     {CALL(VELT_NetSrv_GetCurPlmn, o.n, &o.plmn), ""},
     {CALL(VELT_NetSrv_GetCSRegState, &o.state), ""},
     {CALL(VELT_NetSrv_GetPSRegState, &o.state), ""},

@@ -144,9 +144,9 @@ void checkThreads(const Sdk &sdk)
 {
     const int64_t end = now() + 2000;
     std::atomic<int> count{0};
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 4; ++thread)
-        threads.emplace_back([&] {
+    std::thread threads[4];
+    for (std::thread &thread : threads)
+        thread = std::thread([&] {
             AllCallers callers(sdk, 0, true);
             for (; now() < end; ++count)
                 callers.runNext();

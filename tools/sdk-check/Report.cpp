@@ -69,6 +69,7 @@ void Report::fail(int row, const char *format, ...)
         length = std::snprintf(text, sizeof text, "%s ", step->what());
     va_list arguments;
     va_start(arguments, format);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): it is
     std::vsnprintf(text + length, sizeof text - length, format, arguments);
     va_end(arguments);
     while (m_locked.test_and_set())
@@ -85,6 +86,7 @@ void Report::setResult(int row, const char *format, ...)
 {
     va_list arguments;
     va_start(arguments, format);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): it is
     std::vsnprintf(rows[row].result, sizeof rows[row].result, format, arguments);
     va_end(arguments);
 }

@@ -52,7 +52,7 @@ public:
     void addCall(int row, long result, double milliseconds);
 
 private:
-    Report() = default;
+    Report() { start({}); }
 
     std::atomic_flag m_locked;
 };

@@ -14,7 +14,7 @@
 
 using namespace TestSupport;
 
-/// The whole program, as a script would use it.
+/// The whole program, used like by a script.
 class ProgramTest : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ class ProgramTest : public QObject
         const QByteArray errors = process.readAllStandardError();
         QVERIFY2(process.exitCode() == expectation.at(0).toInt(), errors);
         QVERIFY2(output == "-" ? seen.isEmpty() : seen.contains(output), seen);
-        // The toolkit may warn of the test's surroundings.
+        // Qt may warn about the environment of the test.
         QCOMPARE(errors.count("diagnosis-host:"), error.isEmpty() ? 0 : 1);
         QVERIFY2(errors.contains(error) && !errors.contains("DiagnosticsUIPlugin: "), errors);
     }
@@ -49,7 +49,7 @@ private Q_SLOTS:
     }
 
     void badPlugin_data() { addRows(TEST_SOURCE_DIR "/program.txt", "bad plug-ins"); }
-    /// In a tree like the installed one, at another place, with the plug-in exchanged.
+    /// In a tree like an installed one, at another place, with another plug-in.
     void badPlugin()
     {
         QFETCH(QStringList, fields);
@@ -64,26 +64,41 @@ private Q_SLOTS:
         for (const QString &file :
              QStringList{libraries + "libcore.so", libraries + "libsdk.so", HOST_DATA_DIR})
             QVERIFY(QFile::link(built.filePath(file), root.filePath(file)));
-        // A link to nothing is no file.
+        // A broken link does not count as a file.
         QVERIFY(QFile::link(TEST_PLUGINS "/" + fields.at(1),
                             root.filePath(plugins + "libDiagnosisPlugin.so")));
         run(program, {"--open", "--modem", "wcdma"}, fields.mid(2));
     }
 
+    void surroundings_data() { addRows(TEST_SOURCE_DIR "/program.txt", "surroundings"); }
+    /// Without a display the program ends by itself.
+    void surroundings()
+    {
+        QFETCH(QStringList, fields);
+        const QTemporaryDir folder;
+        const QString output = QString(fields.at(3)).replace("@FOLDER@", folder.path());
+        run("env",
+            QStringList{"-uDISPLAY", "-uWAYLAND_DISPLAY", fields.at(1), "TMPDIR=" + folder.path(),
+                        HOST_PROGRAM} +
+                fields.at(2).split(' '),
+            {"0", output, ""});
+        const QStringList pictures = QDir(folder.path()).entryList(QDir::Files);
+        QCOMPARE(pictures.size(), fields.at(4).toInt());
+        for (const QString &picture : pictures)
+            QCOMPARE(QImage(folder.filePath(picture)).size(), QSize(460, 426));
+    }
+
     void report_data() { addRows(TEST_SOURCE_DIR "/program.txt", "reports"); }
-    /// To a file, with the time zone, and where no window could be seen.
+    /// To a file, in a time zone, and with a platform that has no display.
     void report()
     {
         QFETCH(QStringList, fields);
         const QTemporaryDir folder;
         const QString written = folder.filePath("report");
-        qputenv("TZ", "<+05>-5");
-        const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        run(HOST_PROGRAM, fields.at(1).split(' ') + QStringList({"--report", written}),
+        run("env",
+            QStringList{"TZ=<+05>-5", "QT_QPA_PLATFORM=xcb", HOST_PROGRAM} +
+                fields.at(1).split(' ') + QStringList{"--report", written},
             {"0", "-", ""});
-        qputenv("QT_QPA_PLATFORM", platform);
-        qunsetenv("TZ");
         QString text = QString::fromUtf8(contentOf(written));
         text.replace(QRegularExpression("\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d"), "@DATE@");
         const QByteArray sum = QCryptographicHash::hash(
@@ -95,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(text.split('\n'), QString::fromUtf8(expected).split('\n'));
     }
 
-    /// A disk that is full leaves the earlier report as it was, and nothing beside it.
+    /// If the disk is full, the earlier report stays as it was, and there is no other file.
     void reportNotWritten()
     {
         const QTemporaryDir folder;
@@ -109,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("report"));
     }
 
-    /// A bus that takes the connection and then says nothing, which the toolkit waits for.
+    /// A bus that accepts the connection and then does not answer. Qt waits for it.
     void hangingBus()
     {
         const QTemporaryDir folder;
@@ -120,11 +135,10 @@ private Q_SLOTS:
         qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
         QCOMPARE(bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
         QCOMPARE(listen(listener, 5), 0);
-        const QByteArray usual = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + path);
-        run(HOST_PROGRAM, {"--modem", "modemmanager", "--language", "en", "--print"},
+        run("env",
+            {"DBUS_SYSTEM_BUS_ADDRESS=unix:path=" + path, HOST_PROGRAM, "--modem", "modemmanager",
+             "--language", "en", "--print"},
             {"0", "IMEI: Unknown\n", "has answered yet"});
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", usual);
         close(listener);
     }
 

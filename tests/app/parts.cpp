@@ -23,9 +23,9 @@
 
 using namespace TestSupport;
 
-/// The host's loader against plug-ins that misbehave, its window, its own plug-ins, and its check
-/// of configurations.
-class PluginsTest : public QObject
+/// The parts of the host: the loader with faulty plug-ins, the windows, the host's own plug-ins,
+/// the check of configurations, masking.
+class PartsTest : public QObject
 {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ class PluginsTest : public QObject
 
     static QString file(const QString &name) { return TEST_PLUGINS "/" + name; }
 
-    /// The answers of the host's plug-ins, found as other plug-ins find them; "-" for a failure.
+    /// What the host's plug-ins return to other plug-ins, with "-" for a failure.
     static QString answers()
     {
         PluginContainer *const container = Startup::GetPluginContainer();
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY2(m_modem.attach("wcdma", &error), qPrintable(error));
     }
 
-    void loader_data() { addRows(TEST_SOURCE_DIR "/plugins.txt", "loader"); }
+    void loader_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "loader"); }
     void loader()
     {
         QFETCH(QStringList, fields);
@@ -79,7 +79,7 @@ private Q_SLOTS:
         {
             PluginLoader loader(file(fields.at(1)));
             QCOMPARE(loader.start(), reached == "Started");
-            // Once more from where it stands: neither better nor worse.
+            // A second start changes nothing.
             loader.start();
             QCOMPARE(states.at(loader.state()), reached);
             QVERIFY2(loader.error().contains(error), qPrintable(loader.error()));
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(!modem->isVisible());
     }
 
-    void hostPlugins_data() { addRows(TEST_SOURCE_DIR "/plugins.txt", "host plug-ins"); }
+    void hostPlugins_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "host plug-ins"); }
     void hostPlugins()
     {
         QFETCH(QStringList, fields);
@@ -146,7 +146,7 @@ private Q_SLOTS:
     }
 
     void config_data() { addRows(TEST_SOURCE_DIR "/config.txt", "config"); }
-    /// One fault at a time in a configuration that has none.
+    /// One fault at a time, in a configuration without faults.
     void config()
     {
         QFETCH(QStringList, fields);
@@ -164,15 +164,15 @@ private Q_SLOTS:
         QCOMPARE(findings.join('\n'), fields.at(3));
     }
 
-    void mask_data() { addRows(TEST_SOURCE_DIR "/plugins.txt", "mask"); }
+    void mask_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "mask"); }
     void mask()
     {
         QFETCH(QStringList, fields);
         QCOMPARE(maskedValue({fields.at(1), QString(), fields.at(2)}), fields.at(3));
     }
 
-    /// The shipped window, read as the host reads it; its longest page, of 15 rows, has nothing
-    /// squeezed or clipped.
+    /// The host reads the shipped window. On its longest page, of 15 rows, nothing is squeezed or
+    /// clipped.
     void realWindow()
     {
         const QDir built(DIAG_BINARY_DIR);
@@ -204,5 +204,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PluginsTest)
-#include "plugins.moc"
+QTEST_MAIN(PartsTest)
+#include "parts.moc"

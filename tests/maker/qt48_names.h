@@ -46,4 +46,4 @@
 // Members
 #pragma GCC poison chopped constFirst constLast currentSecsSinceEpoch fromSignal grab horizontalAdvance
 #pragma GCC poison isSignalConnected methodSignature readLineInto setTabBarAutoHide setTabVisible
-#pragma GCC poison setToolTipDuration swapItemsAt toHtmlEscaped toSecsSinceEpoch
+#pragma GCC poison setTabletTracking setToolTipDuration swapItemsAt toHtmlEscaped toSecsSinceEpoch

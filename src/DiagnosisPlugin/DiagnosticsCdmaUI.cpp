@@ -378,11 +378,15 @@ void DiagnosticsCdmaUI::onRefreshClicked()
         qDebug("%s: %s: %s: cdma list or dialog is null", LOG_AT);
         return;
     }
-    for (const QString &key : *m_plistCdma) {
+    const QPointer<DiagnosticsCdmaUI> alive(this); // the host may destroy it meanwhile
+    const QStringList keys = *m_plistCdma;
+    for (const QString &key : keys) {
         const QPointer<QLabel> label = DiagnosticsRow::value(m_pwidgetCdmaDiagnostic, key);
         if (!label)
             continue;
         const QString value = getLabelValuebyName(key);
+        if (!alive)
+            return;
         if (label) // the host may have closed the window meanwhile
             label->setText(value);
     }
@@ -395,7 +399,7 @@ void DiagnosticsCdmaUI::onSaveClicked()
     qDebug("%s: %s: %s: called", LOG_AT);
     const QPointer<DiagnosticsCdmaUI> alive(this); // the host may destroy it meanwhile
     const QString path = DiagnosticsSaveDialogs::askPath(m_pwidgetCdmaDiagnostic);
-    if (alive && !path.isNull() && saveFile(path) != Success)
+    if (alive && !path.isNull() && saveFile(path) != Success && alive)
         DiagnosticsSaveDialogs::showFailure(m_pwidgetCdmaDiagnostic);
 }
 
@@ -411,8 +415,12 @@ int DiagnosticsCdmaUI::saveFile(QString fileName)
         qDebug("%s: %s: %s: Error in opening file", LOG_AT);
         return CannotOpen;
     }
-    for (const QString &key : *m_plistCdma) {
+    const QPointer<DiagnosticsCdmaUI> alive(this);
+    const QStringList keys = *m_plistCdma;
+    for (const QString &key : keys) {
         const QString value = getLabelValuebyName(key);
+        if (!alive)
+            return Missing;
         const QLabel *caption = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, key);
         if (!caption)
             continue;

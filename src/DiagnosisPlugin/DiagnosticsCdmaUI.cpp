@@ -267,7 +267,8 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
 int DiagnosticsCdmaUI::createCdmaLabels()
 {
     const int rowSpacing = 20;
-    QFormLayout *layout = new (std::nothrow) QFormLayout(m_pframeCdmaDiag);
+    // Guarded, like the labels: the host, which is asked for some values, may delete all of them.
+    const QPointer<QFormLayout> layout(new (std::nothrow) QFormLayout(m_pframeCdmaDiag));
     if (!layout || !m_plistCdma) {
         delete layout;
         qDebug("%s: %s: %s: Memory allocation failed", LOG_AT);
@@ -275,25 +276,30 @@ int DiagnosticsCdmaUI::createCdmaLabels()
     }
     layout->setVerticalSpacing(rowSpacing);
     int result = Success;
-    for (const QString &key : *m_plistCdma) {
+    const QPointer<DiagnosticsCdmaUI> alive(this);
+    const QStringList keys = *m_plistCdma;
+    for (const QString &key : keys) {
         ++m_iRowCount;
-        QLabel *caption = new (std::nothrow) QLabel(m_pframeCdmaDiag);
-        QLabel *value = new (std::nothrow) QLabel(m_pframeCdmaDiag);
-        if (!caption || !value) {
+        const QPointer<QLabel> caption(new (std::nothrow) QLabel(m_pframeCdmaDiag));
+        const QPointer<QLabel> value(new (std::nothrow) QLabel(m_pframeCdmaDiag));
+        int rowHeight = 0;
+        QString text;
+        if (caption && value) {
+            DiagnosticsRow::setUp(caption, value, key, tr(key));
+            int textWidth = 0;
+            CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
+            caption->setMinimumSize(DiagnosticsRow::CaptionWidth, rowHeight);
+            text = getLabelValuebyName(key);
+        }
+        if (!alive || !caption || !value) {
             qDebug("%s: %s: %s: labelName is null", LOG_AT);
             delete layout;
-            layout = nullptr;
             delete caption;
             delete value;
             result = Missing;
             break;
         }
-        DiagnosticsRow::setUp(caption, value, key, tr(key));
-        int textWidth = 0;
-        int rowHeight = 0;
-        CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
-        caption->setMinimumSize(DiagnosticsRow::CaptionWidth, rowHeight);
-        value->setText(getLabelValuebyName(key));
+        value->setText(text);
         value->setFixedHeight(rowHeight);
         layout->addRow(caption, value);
     }

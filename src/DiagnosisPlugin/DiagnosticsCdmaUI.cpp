@@ -258,9 +258,10 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
     connect(m_pdialogCdmaDiagnostics, SIGNAL(dlgCloseEvent()), this, SLOT(onDlgClose()));
 
     const int buttonSpacing = 5;
+    const int rightMargin = 0;
     DiagnosticsWindow::layOutButtons(m_phboxLayoutCdmaBottom, m_ppushButtonCdmaSave,
                                      m_ppushButtonCdmaRefresh, m_ppushButtonCdmaCancel,
-                                     buttonSpacing);
+                                     buttonSpacing, rightMargin);
     return Success;
 }
 

@@ -399,9 +399,9 @@ int DiagnosticsUIPlugin::createLayout()
     m_phboxLayoutTop->addWidget(m_ptabWidgetDiag);
 
     const int buttonSpacing = 26;
+    const int rightMargin = 15;
     DiagnosticsWindow::layOutButtons(m_phboxLayoutBottom, m_ppushButtonSave, m_ppushButtonRefresh,
-                                     m_ppushButtonCancel, buttonSpacing);
-    m_phboxLayoutBottom->setContentsMargins(0, 0, 15, 0);
+                                     m_ppushButtonCancel, buttonSpacing, rightMargin);
     return Success;
 }
 

@@ -32,7 +32,7 @@ void DiagnosticsWindow::setUpButton(QPushButton *button, const char *textKey, QO
 }
 
 void DiagnosticsWindow::layOutButtons(QHBoxLayout *layout, QPushButton *save, QPushButton *refresh,
-                                      QPushButton *cancel, int gap)
+                                      QPushButton *cancel, int gap, int rightMargin)
 {
     layout->setSpacing(0);   // the style's own would add to the gap
     layout->addWidget(save); // Qt passes over a missing button, with a warning
@@ -40,6 +40,7 @@ void DiagnosticsWindow::layOutButtons(QHBoxLayout *layout, QPushButton *save, QP
     layout->addWidget(refresh);
     layout->addSpacing(gap);
     layout->addWidget(cancel);
+    layout->setContentsMargins(0, 0, rightMargin, 0);
     layout->setAlignment(Qt::AlignRight);
     if (save)
         QWidget::setTabOrder(save, refresh);

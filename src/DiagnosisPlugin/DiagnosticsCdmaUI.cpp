@@ -286,10 +286,11 @@ int DiagnosticsCdmaUI::createCdmaLabels()
         int rowHeight = 0;
         QString text;
         if (caption && value) {
-            DiagnosticsRow::setUp(caption, value, key, tr(key));
+            DiagnosticsRow::setUp(caption, value, tr(key));
             int textWidth = 0;
             CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
             caption->setMinimumSize(DiagnosticsRow::CaptionWidth, rowHeight);
+            caption->setObjectName(DiagnosticsRow::captionName(key));
             text = getLabelValuebyName(key);
         }
         if (!alive || !caption || !value) {
@@ -302,6 +303,7 @@ int DiagnosticsCdmaUI::createCdmaLabels()
         }
         value->setText(text);
         value->setFixedHeight(rowHeight);
+        value->setObjectName(DiagnosticsRow::valueName(key));
         layout->addRow(caption, value);
     }
     if (layout)

@@ -485,8 +485,10 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
             result = Missing;
             break;
         }
-        DiagnosticsRow::setUp(caption, value, item.name, tr(item.resourceID));
+        DiagnosticsRow::setUp(caption, value, tr(item.resourceID));
         caption->setFixedWidth(DiagnosticsRow::CaptionWidth);
+        caption->setObjectName(DiagnosticsRow::captionName(item.name));
+        value->setObjectName(DiagnosticsRow::valueName(item.name));
         value->setWordWrap(true);
         layout->addRow(caption, value);
     }

@@ -8,6 +8,8 @@
 #include <QString>
 #include <QTextStream>
 
+#include <memory>
+
 /// The file that both windows export to: UTF-8 text, flushed after each line.
 class DiagnosticsReportFile
 {
@@ -24,7 +26,7 @@ private:
     Q_DISABLE_COPY(DiagnosticsReportFile)
 
     QFile m_file;
-    QTextStream m_stream;
+    std::unique_ptr<QTextStream> m_stream; ///< while the file is open
 };
 
 #endif

@@ -4,11 +4,13 @@
 #ifndef DIAGNOSTICSCONFIGPARSE_H
 #define DIAGNOSTICSCONFIGPARSE_H
 
-#include "DiagnosticsToolkit.h"
-
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QXmlStreamReader>
+
+// After Qt's header, which in Qt 4 can rename the class to this name.
+typedef QXmlStreamReader QCoreXmlStreamReader;
 
 /// One configured row.
 struct TabItem

@@ -14,12 +14,6 @@
 #include <QStringConverter>
 #endif
 
-QT_BEGIN_NAMESPACE
-class QXmlStreamReader;
-QT_END_NAMESPACE
-
-typedef QXmlStreamReader QCoreXmlStreamReader;
-
 // The export of the plug-in: the first macro stands in the class, the second in one source file.
 // The first must stand between two of Qt's own macros, since the moc of Qt 4 does not expand it and
 // can skip it only there.

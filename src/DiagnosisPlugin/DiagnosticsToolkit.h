@@ -45,7 +45,7 @@ void setUtf8(TextStream &stream)
 #endif
 }
 
-/// Lets a file dialog offer local files only. Qt 4 knows no others.
+/// Lets a file dialog offer local files only. Qt before 5.6 does not have this setting.
 template <typename FileDialog>
 void offerLocalFiles(FileDialog &dialog)
 {

@@ -33,7 +33,8 @@ public:
     static void layOutButtons(QHBoxLayout *layout, QPushButton *save, QPushButton *refresh,
                               QPushButton *cancel, int gap, int rightMargin);
 
-    /// Shows a window in the middle of its parent; it deletes itself when it is closed.
+    /// Shows a window in the middle of its parent, or of the screen if it has none. The window
+    /// deletes itself when it is closed.
     static void show(ExtendDialog *window);
 };
 

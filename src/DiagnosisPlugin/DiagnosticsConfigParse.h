@@ -71,7 +71,8 @@ private:
     QString m_strKey;
     QString m_strValue;
     QString m_strSection;
-    QString m_strCustomizeActive; ///< "true" while a block holds whose simmsgprompt is not read yet
+    /// "true" while a customization block applies and its simmsgprompt has not been read.
+    QString m_strCustomizeActive;
     QString m_strReserved;
     QHash<QString, QString> *m_pHashCustomization;
 };

@@ -10,7 +10,7 @@
 
 #include <memory>
 
-/// The file that both windows export to: UTF-8 text, flushed after each line.
+/// The file of an export, of either window: UTF-8 text, flushed after each line.
 class DiagnosticsReportFile
 {
 public:
@@ -26,7 +26,7 @@ private:
     Q_DISABLE_COPY(DiagnosticsReportFile)
 
     QFile m_file;
-    std::unique_ptr<QTextStream> m_stream; ///< while the file is open
+    std::unique_ptr<QTextStream> m_stream; ///< null unless the file is open
 };
 
 #endif

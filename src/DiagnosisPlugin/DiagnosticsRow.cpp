@@ -8,10 +8,10 @@
 
 namespace {
 
-/// Sets a caption's text and its buddy. The buddy tells assistive technology what the value is of,
-/// but makes the label read an ampersand as the mark of a shortcut, so a text with an ampersand
-/// gets none. The old buddy is removed first: removed after the text was set, it would leave its
-/// shortcut.
+/// Sets a caption's text and its buddy. The buddy tells assistive technology which value the
+/// caption belongs to, but makes the label read an ampersand as the mark of a shortcut, so a text
+/// with an ampersand gets none. The old buddy is removed first. If it were removed after the text
+/// was set, its shortcut would stay.
 void setText(QLabel *caption, QLabel *value, const QString &text)
 {
     caption->setBuddy(nullptr);

@@ -27,8 +27,8 @@ public:
     /// copied.
     static void setUp(QLabel *caption, QLabel *value, const QString &text);
 
-    /// A label of a row among the descendants of a widget, which may be null; null if there is
-    /// none.
+    /// Finds a label of a row below a widget. Returns null if there is none, or if \a below is
+    /// null.
     static QLabel *caption(const QWidget *below, const QString &rowName);
     static QLabel *value(const QWidget *below, const QString &rowName);
 

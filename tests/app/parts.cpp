@@ -6,9 +6,11 @@
 #include "config/ConfigCheck.h"
 #include "modem/HostPlugins.h"
 #include "modem/ModemSource.h"
+#include "modemmanager/ModemService.h"
 #include "report/DiagnosticsReader.h"
 #include "report/Masking.h"
 #include "report/Report.h"
+#include "sdk/VeltDevice.h"
 #include "window/MainWindow.h"
 #include "window/PluginLoader.h"
 
@@ -70,6 +72,17 @@ private Q_SLOTS:
             qApp->setProperty(counter, 0);
         QString error;
         QVERIFY2(m_modem.attach("wcdma", &error), qPrintable(error));
+    }
+
+    void modems()
+    {
+        QString error;
+        QVERIFY(m_modem.attach("auto", &error) && m_modem.isSimulated());
+        QCOMPARE(ModemService::problem(), std::string());
+        QVERIFY(m_modem.problem().endsWith("A simulated modem takes its place."));
+        QVERIFY(m_modem.attach("failing", &error));
+        int32_t status = 0;
+        QCOMPARE(VELT_DevSrv_GetDevStatus(&status), 1L); // as its file says
     }
 
     void loader_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "loader"); }

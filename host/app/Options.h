@@ -17,6 +17,9 @@ struct Options
     /// Whether the arguments ask for what shows no window: decided before there is an application.
     static bool needNoScreen(int count, const char *const *arguments);
 
+    /// Whether the program ends without its user closing a window.
+    bool endsByItself() const { return print || report || !screenshot.isNull(); }
+
     QString modem;
     QString language;
     QString log;

@@ -17,23 +17,32 @@
 
 namespace {
 
-/// Sets what Qt reads from the environment when the application object is made.
-void setEnvironment(int argc, const char *const *argv)
+/// Whether nothing says where windows could be shown.
+bool lacksDisplay()
 {
+    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return false;
+    }
+    return true;
+}
+
+/// Sets what Qt reads from the environment when the application object is made.
+void setEnvironment(bool offscreen)
+{
+    if (offscreen)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     // Nothing here draws with OpenGL; loading its drivers would only slow the start.
     if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
         qputenv("QT_XCB_GL_INTEGRATION", "none");
-    if (Options::needNoScreen(argc, argv) ||
-        (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
-         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    setEnvironment(argc, argv);
+    const bool noDisplay = lacksDisplay();
+    setEnvironment(noDisplay || Options::needNoScreen(argc, argv));
     Log::install();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
@@ -65,7 +74,10 @@ int main(int argc, char *argv[])
     HostCore::applyLook(application);
     if (!modem.attach(options.modem, &error))
         return fail(WrongUsage, error);
-    const int code = Commands::show(modem, options);
+    // The option -platform may have chosen one that can be seen without these variables.
+    const bool unseen = noDisplay && QApplication::platformName() == QLatin1String("offscreen");
+    const int code = unseen && !options.endsByItself() ? Commands::showUnseen(modem, options)
+                                                       : Commands::show(modem, options);
     if (!modem.detach()) {
         std::fflush(nullptr);
         std::_Exit(code);

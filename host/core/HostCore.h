@@ -53,9 +53,6 @@ public:
     /// Registers a plug-in, not owned. A later one with the same identifier and type wins.
     void add(const QString &classIdentifier, int pluginType, QObject *plugin);
 
-    /// Takes a plug-in out.
-    void remove(QObject *plugin);
-
     QObject *GetPlugin(const QString &classIdentifier, int pluginType) override;
 
 private:

@@ -70,6 +70,24 @@ private Q_SLOTS:
         run(program, {"--open", "--modem", "wcdma"}, fields.mid(2));
     }
 
+    void surroundings_data() { addRows(TEST_SOURCE_DIR "/program.txt", "surroundings"); }
+    /// Without a display, in a given environment. The program ends by itself.
+    void surroundings()
+    {
+        QFETCH(QStringList, fields);
+        const QTemporaryDir folder;
+        const QString output = QString(fields.at(3)).replace("@FOLDER@", folder.path());
+        run("env",
+            QStringList{"-uDISPLAY", "-uWAYLAND_DISPLAY", fields.at(1), "TMPDIR=" + folder.path(),
+                        HOST_PROGRAM} +
+                fields.at(2).split(' '),
+            {"0", output, ""});
+        const QStringList pictures = QDir(folder.path()).entryList(QDir::Files);
+        QCOMPARE(pictures.size(), fields.at(4).toInt());
+        for (const QString &picture : pictures)
+            QCOMPARE(QImage(folder.filePath(picture)).size(), QSize(460, 426));
+    }
+
     void report_data() { addRows(TEST_SOURCE_DIR "/program.txt", "reports"); }
     /// To a file, with the time zone, and where no window could be seen.
     void report()
@@ -77,13 +95,10 @@ private Q_SLOTS:
         QFETCH(QStringList, fields);
         const QTemporaryDir folder;
         const QString written = folder.filePath("report");
-        qputenv("TZ", "<+05>-5");
-        const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        run(HOST_PROGRAM, fields.at(1).split(' ') + QStringList({"--report", written}),
+        run("env",
+            QStringList{"TZ=<+05>-5", "QT_QPA_PLATFORM=xcb", HOST_PROGRAM} +
+                fields.at(1).split(' ') + QStringList{"--report", written},
             {"0", "-", ""});
-        qputenv("QT_QPA_PLATFORM", platform);
-        qunsetenv("TZ");
         QString text = QString::fromUtf8(contentOf(written));
         text.replace(QRegularExpression("\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d"), "@DATE@");
         const QByteArray sum = QCryptographicHash::hash(
@@ -120,11 +135,10 @@ private Q_SLOTS:
         qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
         QCOMPARE(bind(listener, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
         QCOMPARE(listen(listener, 5), 0);
-        const QByteArray usual = qgetenv("DBUS_SYSTEM_BUS_ADDRESS");
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + path);
-        run(HOST_PROGRAM, {"--modem", "modemmanager", "--language", "en", "--print"},
+        run("env",
+            {"DBUS_SYSTEM_BUS_ADDRESS=unix:path=" + path, HOST_PROGRAM, "--modem", "modemmanager",
+             "--language", "en", "--print"},
             {"0", "IMEI: Unknown\n", "has answered yet"});
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", usual);
         close(listener);
     }
 

@@ -20,7 +20,7 @@ void closeByTitleBar(QWidget *window)
 }
 
 /// How a dialog ends.
-struct Ending
+struct DialogEnding
 {
     const char *name;
     bool shown;
@@ -28,8 +28,8 @@ struct Ending
     void (*run)(ExtendDialog *d, QWidget *parent);
 };
 
-/// What the user does with a message box, and its result.
-struct Answer
+/// What happens to a message box, and the result.
+struct BoxEnding
 {
     const char *name;
     int result;
@@ -37,7 +37,7 @@ struct Answer
 };
 
 // clang-format off
-const Ending endings[] = {
+const DialogEnding dialogEndings[] = {
     {"close", true, false, [](ExtendDialog *d, QWidget *) { d->close(); }},
     {"title bar", true, false, [](ExtendDialog *d, QWidget *) { closeByTitleBar(d); }},
     {"Esc", true, false, [](ExtendDialog *d, QWidget *) { QTest::keyClick(d, Qt::Key_Escape); }},
@@ -50,7 +50,7 @@ const Ending endings[] = {
 enum Afterwards { Nothing, DeletedOnClose, SlotDeletesLater, SlotDeletes };
 const char *const afterwards[] = {"", ", deleted on close", ", slot deletes later", ", slot deletes"};
 
-const Answer answers[] = {
+const BoxEnding boxEndings[] = {
     {"second button", 2, [](QMessageBox *b, QWidget *) { b->buttons().at(1)->click(); }},
     {"Return presses the first", 1, [](QMessageBox *b, QWidget *) { QTest::keyClick(b, Qt::Key_Return); }},
     {"Esc presses none", 0, [](QMessageBox *b, QWidget *) { QTest::keyClick(b, Qt::Key_Escape); }},
@@ -71,12 +71,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("ending");
         QTest::addColumn<int>("after");
-        for (const Ending &ending : endings) {
+        for (const DialogEnding &ending : dialogEndings) {
             // A slot that deletes what is being deleted has no chance.
             for (int after = Nothing; after <= (ending.destroys ? SlotDeletesLater : SlotDeletes);
                  ++after)
                 QTest::addRow("%s%s", ending.name, afterwards[after])
-                    << int(&ending - endings) << after;
+                    << int(&ending - dialogEndings) << after;
         }
     }
 
@@ -95,14 +95,14 @@ private Q_SLOTS:
             else if (after == SlotDeletes)
                 delete dialog;
         });
-        if (endings[ending].shown)
+        if (dialogEndings[ending].shown)
             dialog->show();
 
-        endings[ending].run(dialog, parent);
+        dialogEndings[ending].run(dialog, parent);
         QCOMPARE(signalled, 1);
         QVERIFY(!dialog || !dialog->isVisible());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(dialog.isNull(), endings[ending].destroys || after != Nothing);
+        QCOMPARE(dialog.isNull(), dialogEndings[ending].destroys || after != Nothing);
         delete parent;
         QCOMPARE(signalled, 1);
     }
@@ -133,15 +133,15 @@ private Q_SLOTS:
 
     void message_data()
     {
-        QTest::addColumn<int>("answer");
-        for (const Answer &answer : answers)
-            QTest::newRow(answer.name) << int(&answer - answers);
+        QTest::addColumn<int>("ending");
+        for (const BoxEnding &ending : boxEndings)
+            QTest::newRow(ending.name) << int(&ending - boxEndings);
     }
 
     void message()
     {
-        QFETCH(int, answer);
-        const bool modal = answer % 2 == 0;
+        QFETCH(int, ending);
+        const bool modal = ending % 2 == 0;
         QVERIFY(HostCore::setLanguage(QStringLiteral(TRANSLATIONS_DIR), QStringLiteral("de")));
         QPointer<QWidget> parent(new QWidget);
         QDialog *out = nullptr;
@@ -154,7 +154,7 @@ private Q_SLOTS:
                 seen << button->text();
             QCOMPARE(box->textFormat(), Qt::PlainText);
             QCOMPARE(box->windowModality(), modal ? Qt::WindowModal : Qt::NonModal);
-            answers[answer].run(box, parent);
+            boxEndings[ending].run(box, parent);
         });
         const int pressed = CommonUtils::ShowMessage(
             QMessageBox::Information, parent, QString(), QStringLiteral("<b>Text"),
@@ -162,7 +162,7 @@ private Q_SLOTS:
             Qt::WindowCloseButtonHint, &out, QStringLiteral("Details"), true);
         QCOMPARE(seen.mid(0, 4).join(QLatin1Char('|')),
                  QStringLiteral("<b>Text|Details|A&bbrechen|Later"));
-        QCOMPARE(pressed, answers[answer].result);
+        QCOMPARE(pressed, boxEndings[ending].result);
         QVERIFY(!out);
         QVERIFY(!parent || parent->findChildren<QMessageBox *>().isEmpty());
         delete parent;

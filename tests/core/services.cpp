@@ -45,8 +45,6 @@ private Q_SLOTS:
         QCOMPARE(container->GetPlugin(identifier.toLower(), 4100), nullptr);
         delete second;
         QCOMPARE(container->GetPlugin(identifier, 4100), &first);
-        plugins.remove(&first);
-        QCOMPARE(container->GetPlugin(identifier, 4100), nullptr);
         HostCore::setPluginContainer(nullptr);
         QVERIFY(!Startup::GetPluginContainer());
     }

@@ -76,14 +76,14 @@ QString text(const xmlChar *characters)
 
 /// The check of a document. The parser calls it for each element, and then the validator that is
 /// plugged in behind it, whose errors therefore concern the current element.
-class Check
+class DocumentCheck
 {
 public:
-    Check(const QByteArray &document, const QMap<QString, QStringList> &rowsOfTabs)
+    DocumentCheck(const QByteArray &document, const QMap<QString, QStringList> &rowsOfTabs)
         : m_document(document), m_rowsOfTabs(rowsOfTabs)
     {
     }
-    Q_DISABLE_COPY(Check)
+    Q_DISABLE_COPY(DocumentCheck)
 
     void run(xmlSchemaPtr schema);
     QStringList findings() const;
@@ -100,7 +100,7 @@ private:
         QHash<QString, int> offsets; ///< of the attributes
     };
 
-    static Check *from(void *self) { return static_cast<Check *>(self); }
+    static DocumentCheck *from(void *self) { return static_cast<DocumentCheck *>(self); }
     static void onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *);
     static void onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
                         const xmlChar **, int count, int, const xmlChar **attributes);
@@ -126,7 +126,7 @@ private:
     QSet<Position> m_explained; ///< where the validator has nothing to add
 };
 
-void Check::run(xmlSchemaPtr schema)
+void DocumentCheck::run(xmlSchemaPtr schema)
 {
     const Owner<xmlSchemaValidCtxt> validator(xmlSchemaNewValidCtxt(schema),
                                               xmlSchemaFreeValidCtxt);
@@ -151,7 +151,7 @@ void Check::run(xmlSchemaPtr schema)
 }
 
 /// A validator is for a document that is well-formed: it leaks what is still open.
-void Check::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
+void DocumentCheck::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
 {
     const Owner<xmlParserCtxt> parser(
         xmlCreateMemoryParserCtxt(m_document.constData(), m_document.size()), xmlFreeParserCtxt);
@@ -167,7 +167,7 @@ void Check::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
     m_parser->sax = ownHandler;
 }
 
-QStringList Check::findings() const
+QStringList DocumentCheck::findings() const
 {
     QStringList lines;
     for (auto finding = m_findings.cbegin(); finding != m_findings.cend(); ++finding)
@@ -177,23 +177,23 @@ QStringList Check::findings() const
     return lines;
 }
 
-Check::Position Check::position(int offset) const
+DocumentCheck::Position DocumentCheck::position(int offset) const
 {
     const QByteArray before = m_document.left(offset);
     const int start = before.lastIndexOf('\n') + 1;
     return {before.count('\n') + 1, QString::fromUtf8(before.mid(start)).size() + 1};
 }
 
-void Check::add(int offset, const QString &text)
+void DocumentCheck::add(int offset, const QString &text)
 {
     m_findings.insert(position(offset), text);
     m_explained.insert(position(offset));
 }
 
 // Its entities could stand for anything, at any length.
-void Check::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
+void DocumentCheck::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     const int end = int(xmlByteConsumed(check->m_parser));
     check->add(check->m_document.lastIndexOf('<', end - 1),
                QStringLiteral("A document type declaration has no use here. Nothing behind it was "
@@ -201,10 +201,10 @@ void Check::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlCha
     xmlStopParser(check->m_parser);
 }
 
-void Check::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
-                    const xmlChar **, int count, int, const xmlChar **attributes)
+void DocumentCheck::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
+                            const xmlChar **, int count, int, const xmlChar **attributes)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     // The parser stands behind the attributes, which can hold no '<'.
     const int end = int(xmlByteConsumed(check->m_parser));
     Element element;
@@ -232,25 +232,25 @@ void Check::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlC
     check->m_open.append(element);
 }
 
-void Check::onText(void *self, const xmlChar *characters, int length)
+void DocumentCheck::onText(void *self, const xmlChar *characters, int length)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     check->m_current = check->m_open.last();
     check->m_text += QString::fromUtf8(reinterpret_cast<const char *>(characters), length);
 }
 
-void Check::onEnd(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
+void DocumentCheck::onEnd(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     check->m_current = check->m_open.takeLast();
     if (check->m_current.name == QLatin1String("simmsgprompt"))
         check->m_captions.addWording(check->m_text, check->m_current.offset,
                                      check->m_current.parent == QLatin1String("common"));
 }
 
-void Check::onSyntaxError(void *self, ErrorPointer error)
+void DocumentCheck::onSyntaxError(void *self, ErrorPointer error)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     if (!check->m_findings.isEmpty())
         return; // it follows from that one
     check->m_findings.insert({error->line, error->int2},
@@ -258,9 +258,9 @@ void Check::onSyntaxError(void *self, ErrorPointer error)
                                  QStringLiteral(". The plug-in reads nothing behind it."));
 }
 
-void Check::onSchemaError(void *self, ErrorPointer error)
+void DocumentCheck::onSchemaError(void *self, ErrorPointer error)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     const Element &element = check->m_current;
     QString message = QString::fromUtf8(error->message).trimmed();
     static const QRegularExpression attributePart(
@@ -285,7 +285,7 @@ void Check::onSchemaError(void *self, ErrorPointer error)
 }
 
 /// What the schema cannot say of the current element.
-void Check::checkStart()
+void DocumentCheck::checkStart()
 {
     const auto attribute = [this](const char *name) {
         return m_current.attributes.value(QLatin1String(name));
@@ -363,7 +363,7 @@ bool ConfigCheck::run(const QString &fileName, const QString &schemaFile, QStrin
         *error = QStringLiteral("the schema %1 is broken").arg(schemaFile);
         return false;
     }
-    Check check(document, ConfigSchema::rowsOfTabs(schemaText));
+    DocumentCheck check(document, ConfigSchema::rowsOfTabs(schemaText));
     check.run(schema.get());
     *findings = check.findings();
     return true;

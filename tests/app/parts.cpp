@@ -25,7 +25,7 @@ using namespace TestSupport;
 
 /// The host's loader against plug-ins that misbehave, its window, its own plug-ins, and its check
 /// of configurations.
-class PluginsTest : public QObject
+class PartsTest : public QObject
 {
     Q_OBJECT
 
@@ -68,7 +68,7 @@ private Q_SLOTS:
         QVERIFY2(m_modem.attach("wcdma", &error), qPrintable(error));
     }
 
-    void loader_data() { addRows(TEST_SOURCE_DIR "/plugins.txt", "loader"); }
+    void loader_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "loader"); }
     void loader()
     {
         QFETCH(QStringList, fields);
@@ -128,7 +128,7 @@ private Q_SLOTS:
         QVERIFY(!modem->isVisible());
     }
 
-    void hostPlugins_data() { addRows(TEST_SOURCE_DIR "/plugins.txt", "host plug-ins"); }
+    void hostPlugins_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "host plug-ins"); }
     void hostPlugins()
     {
         QFETCH(QStringList, fields);
@@ -164,7 +164,7 @@ private Q_SLOTS:
         QCOMPARE(findings.join('\n'), fields.at(3));
     }
 
-    void mask_data() { addRows(TEST_SOURCE_DIR "/plugins.txt", "mask"); }
+    void mask_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "mask"); }
     void mask()
     {
         QFETCH(QStringList, fields);
@@ -204,5 +204,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(PluginsTest)
-#include "plugins.moc"
+QTEST_MAIN(PartsTest)
+#include "parts.moc"

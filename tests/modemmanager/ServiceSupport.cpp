@@ -85,7 +85,9 @@ Pairs readSdk()
     QStringList all = values.values();
     all.removeDuplicates();
     values["all"] = all.join(", ");
-    values["problem"] = QString::fromStdString(ModemService::problem());
+    static const char *const statusNames[] = {"Detached",     "Starting", "NoBus",  "NoService",
+                                              "NotAnswering", "NoModem",  "Present"};
+    values["status"] = statusNames[static_cast<int>(ModemService::status())];
     for (const TextValue value : {TextValue::ServiceName, TextValue::NetworkType,
                                   TextValue::Profile, TextValue::Apn, TextValue::Description})
         values[textKeys()[static_cast<size_t>(value)]] =

@@ -56,7 +56,7 @@ private:
     Program m_daemon;
 };
 
-/// All that the SDK says: SdkCalls::answers(); the different ones of them as "all"; "problem" and
+/// All that the SDK says: SdkCalls::answers(); the different ones of them as "all"; "status" and
 /// the keys of what the host alone reads; "events", what was taken.
 Pairs readSdk();
 

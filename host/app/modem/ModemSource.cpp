@@ -22,7 +22,7 @@ const int firstAnswer = 1000; // ms
 } // namespace
 
 ModemSource::ModemSource(const QString &folder)
-    : m_folder(folder), m_simulated(true), m_hanging(false)
+    : m_folder(folder), m_index(0), m_simulated(true), m_hanging(false)
 {
 }
 
@@ -53,7 +53,7 @@ bool ModemSource::attach(const QString &name, QString *error)
         ModemService::attach();
         m_simulated = !ModemService::isPresent(firstAnswer);
         if (m_simulated) {
-            m_fallback = QString::fromStdString(ModemService::problem());
+            m_fallback = serviceProblem();
             detach();
             return attachSimulated(simulatedDefault, error);
         }
@@ -71,6 +71,7 @@ bool ModemSource::attach(const QString &name, QString *error)
                      .arg(number);
         return false;
     }
+    m_index = index;
     ModemService::attach(index);
     ModemService::isPresent(firstAnswer); // so that the first window has values
     m_simulated = false;
@@ -103,9 +104,33 @@ QString ModemSource::description() const
     return QString::fromStdString(SdkControl::text(TextValue::Description));
 }
 
+QString ModemSource::serviceProblem() const
+{
+    switch (ModemService::status()) {
+    case ModemService::Status::NoBus:
+        return QStringLiteral("The system's message bus does not answer.");
+    case ModemService::Status::NoService:
+        return QStringLiteral("ModemManager is not running.");
+    case ModemService::Status::NotAnswering:
+        return QStringLiteral("ModemManager has not answered for 15 seconds.");
+    case ModemService::Status::Starting:
+        return QStringLiteral(
+            "Neither the system's message bus nor ModemManager has answered yet.");
+    case ModemService::Status::NoModem:
+        return m_index == 0
+                   ? QStringLiteral("ModemManager knows no usable modem.")
+                   : QStringLiteral("ModemManager knows no usable modem with the number %1.")
+                         .arg(m_index);
+    case ModemService::Status::Detached:
+    case ModemService::Status::Present:
+        break;
+    }
+    return QString();
+}
+
 QString ModemSource::problem() const
 {
     return m_fallback.isEmpty()
-               ? QString::fromStdString(ModemService::problem())
+               ? serviceProblem()
                : m_fallback + QStringLiteral(" A simulated modem takes its place.");
 }

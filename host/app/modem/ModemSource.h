@@ -41,7 +41,10 @@ public:
 private:
     bool attachSimulated(const QString &name, QString *error);
 
+    QString serviceProblem() const;
+
     const QString m_folder;
+    int m_index; ///< of the wanted modem of the service
     QString m_name;
     QString m_fallback; ///< why "auto" took a simulated modem
     bool m_simulated;

@@ -149,6 +149,9 @@ public:
         convertSignal();
         convertMessages();
         convertConnections();
+        m_readings.condition = {property(m_modem, "State").toInt(),
+                                property(m_modem, "StateFailedReason").toInt(),
+                                property(m_modem, "PowerState").toInt()};
         return m_readings;
     }
 

@@ -5,6 +5,7 @@
 #define CONVERSION_H
 
 #include "Modem.h"
+#include "ModemService.h"
 
 #include <QList>
 #include <QMap>
@@ -38,6 +39,7 @@ struct Readings
         std::map<TextValue, std::string> texts;
     };
     std::vector<Connection> connections; ///< the current one first
+    ModemService::Condition condition = {};
 };
 
 /// How far the service is with a modem (its Modem.State).

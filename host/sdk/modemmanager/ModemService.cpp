@@ -12,6 +12,8 @@
 #include <condition_variable>
 #include <mutex>
 
+using ModemService::Status;
+
 namespace {
 
 using Lock = std::unique_lock<std::mutex>;
@@ -46,16 +48,24 @@ struct Attachment
     std::mutex mutex; ///< guards all below
     std::condition_variable changed;
     int generation = 0; ///< number of the current worker; reports of earlier ones are dropped
-    int index = -1;     ///< number of the wanted modem; negative if none is
-    ServiceStatus status = ServiceStatus::Starting;
+    Status status = Status::Detached;
     std::shared_ptr<ServiceModem> modem;
     ServiceModem::Clock::time_point validUntil;
     int confirmation = 0; ///< ms
 
-    void confirm(ServiceStatus newStatus)
+    std::mutex listening; ///< held while the listener runs or is replaced
+    std::function<void()> listener;
+
+    void confirm(Status newStatus)
     {
         status = newStatus;
         validUntil = ServiceModem::Clock::now() + Milliseconds(confirmation);
+    }
+
+    /// Null if there is none or its reading no longer counts.
+    std::shared_ptr<ServiceModem> validModem() const
+    {
+        return modem && modem->isValid() ? modem : nullptr;
     }
 };
 
@@ -69,7 +79,7 @@ Attachment &attachment()
 const unsigned long patience = 1000; // ms
 
 /// Takes a report of the worker.
-void report(int generation, ServiceStatus status, const std::shared_ptr<ServiceModem> &modem)
+void report(int generation, Status status, const std::shared_ptr<ServiceModem> &modem)
 {
     Attachment &state = attachment();
     Lock lock(state.mutex);
@@ -89,6 +99,10 @@ void report(int generation, ServiceStatus status, const std::shared_ptr<ServiceM
         SdkControl::raiseEvent(VELT_EVENT_DEV_ARRIVAL);
     if (modem && modem->isReady() && !(same && before->isReady()))
         SdkControl::raiseEvent(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
+
+    std::lock_guard<std::mutex> listening(state.listening);
+    if (state.listener)
+        state.listener();
 }
 
 } // namespace
@@ -110,14 +124,13 @@ void attach(int index)
     {
         Lock lock(state.mutex);
         generation = ++state.generation;
-        state.index = index;
         state.confirmation = serviceTiming().confirmation;
-        state.confirm(ServiceStatus::Starting);
+        state.confirm(Status::Starting);
         state.modem.reset();
         SdkControl::attach(nullptr);
     }
     state.worker = std::make_unique<Worker>(
-        index, [generation](ServiceStatus status, const std::shared_ptr<ServiceModem> &modem) {
+        index, [generation](Status status, const std::shared_ptr<ServiceModem> &modem) {
             report(generation, status, modem);
         });
     state.worker->start();
@@ -136,7 +149,7 @@ bool detach()
     state.worker.reset();
     Lock lock(state.mutex);
     ++state.generation;
-    state.index = -1;
+    state.status = Status::Detached;
     state.modem.reset();
     SdkControl::attach(nullptr);
     return ended;
@@ -147,30 +160,43 @@ bool isPresent(int milliseconds)
     Attachment &state = attachment();
     Lock lock(state.mutex);
     state.changed.wait_for(lock, Milliseconds(milliseconds),
-                           [&] { return state.status != ServiceStatus::Starting; });
-    return state.modem && state.modem->isValid();
+                           [&] { return state.status != Status::Starting; });
+    return state.validModem() != nullptr;
 }
 
-std::string problem()
+Status status()
 {
     Attachment &state = attachment();
     Lock lock(state.mutex);
-    if (state.index < 0)
-        return std::string();
-    if (state.status == ServiceStatus::NoBus)
-        return "The system's message bus does not answer.";
-    if (state.status == ServiceStatus::NoService)
-        return "ModemManager is not running.";
-    if (ServiceModem::Clock::now() > state.validUntil)
-        return "ModemManager has not answered for " + std::to_string(state.confirmation / 1000) +
-               " seconds.";
-    if (state.status == ServiceStatus::Starting)
-        return "Neither the system's message bus nor ModemManager has answered yet.";
-    if (!state.modem)
-        return state.index == 0 ? "ModemManager knows no usable modem."
-                                : "ModemManager knows no usable modem with the number " +
-                                      std::to_string(state.index) + ".";
-    return std::string();
+    const bool answers = state.status != Status::NoBus && state.status != Status::NoService &&
+                         state.status != Status::Detached;
+    return answers && ServiceModem::Clock::now() > state.validUntil ? Status::NotAnswering
+                                                                    : state.status;
+}
+
+Condition condition()
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    const auto modem = state.validModem();
+    return modem ? modem->condition() : Condition{0, 0, 0};
+}
+
+std::vector<Detail> details()
+{
+    return {};
+}
+
+bool waitForSignal(int)
+{
+    return true;
+}
+
+void setListener(const std::function<void()> &changed)
+{
+    Attachment &state = attachment();
+    std::lock_guard<std::mutex> listening(state.listening);
+    state.listener = changed;
 }
 
 } // namespace ModemService

@@ -23,6 +23,7 @@ public:
 
     const QString &path() const { return m_path; }
     bool isReady() const;
+    ModemService::Condition condition() const { return m_readings.condition; }
     bool isValid() const { return Clock::now() <= m_validUntil; }
 
     VELT_ERROR readConnection(TextValue value, const std::string &device,

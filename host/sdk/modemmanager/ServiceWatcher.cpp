@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using ModemService::Status;
+
 namespace {
 
 const char servicePrefix[] = "org.freedesktop.ModemManager1.";
@@ -94,7 +96,7 @@ QString identity(const QVariantMap &modem)
 /// One reading of all objects, which takes several calls.
 struct ServiceWatcher::Reading
 {
-    ServiceStatus status = ServiceStatus::Answering;
+    Status status = Status::Present;
     bool confirmed = true;
     ServiceModem::Clock::time_point answered; ///< when the objects came
     int outstanding = 0;                      ///< calls
@@ -159,7 +161,7 @@ void ServiceWatcher::onServiceOwnerChanged(const QString &newOwner)
     m_messages.clear();
     m_signalAsked.invalidate();
     if (newOwner.isEmpty())
-        m_report(ServiceStatus::NoService, nullptr);
+        m_report(Status::NoService, nullptr);
     else
         readSoon();
 }
@@ -177,7 +179,7 @@ void ServiceWatcher::read()
     if (m_reading)
         return;
     if (!connectBus()) {
-        m_report(ServiceStatus::NoBus, nullptr);
+        m_report(Status::NoBus, nullptr);
         return;
     }
     m_changed = false;
@@ -210,10 +212,10 @@ void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, con
             take(toPlain(reply.arguments().value(0)));
         } else if (error.type() == QDBusError::ServiceUnknown ||
                    error.name() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner")) {
-            reading->status = ServiceStatus::NoService;
+            reading->status = Status::NoService;
         } else if (error.type() == QDBusError::Disconnected ||
                    error.type() == QDBusError::NoServer) {
-            reading->status = ServiceStatus::NoBus;
+            reading->status = Status::NoBus;
         } else if (!isDetail) {
             reading->confirmed = false;
         } // Else an object has just gone, or has no such value now.
@@ -318,7 +320,7 @@ void ServiceWatcher::setUpSignal(const Reading &reading)
 void ServiceWatcher::finish(const ReadingPointer &reading)
 {
     m_reading.reset();
-    if (reading->status != ServiceStatus::Answering) {
+    if (reading->status != Status::Present) {
         m_report(reading->status, nullptr);
     } else if (reading->confirmed) {
         std::shared_ptr<ServiceModem> modem;
@@ -328,7 +330,7 @@ void ServiceWatcher::finish(const ReadingPointer &reading)
                 reading->path, convert(reading->objects),
                 reading->answered + std::chrono::milliseconds(m_timing.confirmation));
         }
-        m_report(ServiceStatus::Answering, modem);
+        m_report(modem ? Status::Present : Status::NoModem, modem);
     }
     if (m_changed)
         readSoon();

@@ -4,6 +4,7 @@
 #ifndef SERVICEWATCHER_H
 #define SERVICEWATCHER_H
 
+#include "ModemService.h"
 #include "ServiceModem.h"
 #include "ServiceTiming.h"
 
@@ -19,14 +20,6 @@
 
 class QDBusServiceWatcher;
 
-enum class ServiceStatus
-{
-    Starting, ///< no answer yet
-    NoBus,
-    NoService,
-    Answering
-};
-
 /// Reads the service's objects at once, after each change and every few seconds in between, and
 /// reports each reading. Lives in a thread of its own. All its calls to the service are
 /// asynchronous.
@@ -36,7 +29,7 @@ class ServiceWatcher : public QObject
 
 public:
     /// Takes the modem, if there is one.
-    using Report = std::function<void(ServiceStatus, std::shared_ptr<ServiceModem>)>;
+    using Report = std::function<void(ModemService::Status, std::shared_ptr<ServiceModem>)>;
 
     /// \a index is the number of the modem to take among the usable ones.
     ServiceWatcher(int index, const ServiceTiming &timing, const Report &report);

@@ -8,8 +8,8 @@ class ModemSource;
 class QString;
 struct Options;
 
-/// What the program can be asked to do. Each function returns the exit code, and prints why it
-/// failed.
+/// What the program can be asked to do. Each function returns the exit code, and prints the reason
+/// of a failure.
 namespace Commands {
 
 int listModems(const ModemSource &modem);

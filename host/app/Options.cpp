@@ -45,11 +45,11 @@ const KnownOption KnownOptions[] = {
     {"screenshot", "file", "Open it, write its picture to a file, and exit."},
     {"report", "",
      "Write all captions and values, below a head (date, versions, modem), to the given file or to standard "
-     "output, and exit. No window is seen."},
+     "output, and exit. No window is shown."},
     {"format", "name", "Write the report as \"text\" (the default) or as \"json\"."},
     {"mask", "", "Hide identifiers, location and addresses in the report, so that it can be published."},
     {"check-config", "file",
-     "Say what is wrong in a DiagnosisConfig.xml and what the plug-in passes over in silence, and exit."},
+     "List the faults in a DiagnosisConfig.xml, also those that the plug-in ignores, and exit."},
     {"log", "file", "Write the plug-in's log to a file; \"-\" stands for standard error."},
 };
 // clang-format on

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Commands.h"
+#include "Display.h"
 #include "ExitCode.h"
 #include "HostCore.h"
 #include "HostFiles.h"
@@ -15,34 +16,9 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace {
-
-/// Whether nothing says where windows could be shown.
-bool lacksDisplay()
-{
-    for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
-        if (!qEnvironmentVariableIsEmpty(name))
-            return false;
-    }
-    return true;
-}
-
-/// Sets what Qt reads from the environment when the application object is made.
-void setEnvironment(bool offscreen)
-{
-    if (offscreen)
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Nothing here draws with OpenGL; loading its drivers would only slow the start.
-    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
-        qputenv("QT_XCB_GL_INTEGRATION", "none");
-}
-
-} // namespace
-
 int main(int argc, char *argv[])
 {
-    const bool noDisplay = lacksDisplay();
-    setEnvironment(noDisplay || Options::needNoScreen(argc, argv));
+    Display::choose(Options::needNoScreen(argc, argv));
     Log::install();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
@@ -74,10 +50,9 @@ int main(int argc, char *argv[])
     HostCore::applyLook(application);
     if (!modem.attach(options.modem, &error))
         return fail(WrongUsage, error);
-    // The option -platform may have chosen one that can be seen without these variables.
-    const bool unseen = noDisplay && QApplication::platformName() == QLatin1String("offscreen");
-    const int code = unseen && !options.endsByItself() ? Commands::showUnseen(modem, options)
-                                                       : Commands::show(modem, options);
+    const int code = Display::isMissing() && !options.endsByItself()
+                         ? Commands::showUnseen(modem, options)
+                         : Commands::show(modem, options);
     if (!modem.detach()) {
         std::fflush(nullptr);
         std::_Exit(code);

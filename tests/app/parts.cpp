@@ -23,8 +23,8 @@
 
 using namespace TestSupport;
 
-/// The host's loader against plug-ins that misbehave, its window, its own plug-ins, and its check
-/// of configurations.
+/// The parts of the host: the loader with faulty plug-ins, the windows, the host's own plug-ins,
+/// the check of configurations, masking.
 class PartsTest : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ class PartsTest : public QObject
 
     static QString file(const QString &name) { return TEST_PLUGINS "/" + name; }
 
-    /// The answers of the host's plug-ins, found as other plug-ins find them; "-" for a failure.
+    /// What the host's plug-ins return to other plug-ins, with "-" for a failure.
     static QString answers()
     {
         PluginContainer *const container = Startup::GetPluginContainer();
@@ -79,7 +79,7 @@ private Q_SLOTS:
         {
             PluginLoader loader(file(fields.at(1)));
             QCOMPARE(loader.start(), reached == "Started");
-            // Once more from where it stands: neither better nor worse.
+            // A second start changes nothing.
             loader.start();
             QCOMPARE(states.at(loader.state()), reached);
             QVERIFY2(loader.error().contains(error), qPrintable(loader.error()));
@@ -146,7 +146,7 @@ private Q_SLOTS:
     }
 
     void config_data() { addRows(TEST_SOURCE_DIR "/config.txt", "config"); }
-    /// One fault at a time in a configuration that has none.
+    /// One fault at a time, in a configuration without faults.
     void config()
     {
         QFETCH(QStringList, fields);
@@ -171,8 +171,8 @@ private Q_SLOTS:
         QCOMPARE(maskedValue({fields.at(1), QString(), fields.at(2)}), fields.at(3));
     }
 
-    /// The shipped window, read as the host reads it; its longest page, of 15 rows, has nothing
-    /// squeezed or clipped.
+    /// The host reads the shipped window. On its longest page, of 15 rows, nothing is squeezed or
+    /// clipped.
     void realWindow()
     {
         const QDir built(DIAG_BINARY_DIR);

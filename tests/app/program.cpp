@@ -14,7 +14,7 @@
 
 using namespace TestSupport;
 
-/// The whole program, as a script would use it.
+/// The whole program, used like by a script.
 class ProgramTest : public QObject
 {
     Q_OBJECT
@@ -34,7 +34,7 @@ class ProgramTest : public QObject
         const QByteArray errors = process.readAllStandardError();
         QVERIFY2(process.exitCode() == expectation.at(0).toInt(), errors);
         QVERIFY2(output == "-" ? seen.isEmpty() : seen.contains(output), seen);
-        // The toolkit may warn of the test's surroundings.
+        // Qt may warn about the environment of the test.
         QCOMPARE(errors.count("diagnosis-host:"), error.isEmpty() ? 0 : 1);
         QVERIFY2(errors.contains(error) && !errors.contains("DiagnosticsUIPlugin: "), errors);
     }
@@ -49,7 +49,7 @@ private Q_SLOTS:
     }
 
     void badPlugin_data() { addRows(TEST_SOURCE_DIR "/program.txt", "bad plug-ins"); }
-    /// In a tree like the installed one, at another place, with the plug-in exchanged.
+    /// In a tree like an installed one, at another place, with another plug-in.
     void badPlugin()
     {
         QFETCH(QStringList, fields);
@@ -64,14 +64,14 @@ private Q_SLOTS:
         for (const QString &file :
              QStringList{libraries + "libcore.so", libraries + "libsdk.so", HOST_DATA_DIR})
             QVERIFY(QFile::link(built.filePath(file), root.filePath(file)));
-        // A link to nothing is no file.
+        // A broken link does not count as a file.
         QVERIFY(QFile::link(TEST_PLUGINS "/" + fields.at(1),
                             root.filePath(plugins + "libDiagnosisPlugin.so")));
         run(program, {"--open", "--modem", "wcdma"}, fields.mid(2));
     }
 
     void surroundings_data() { addRows(TEST_SOURCE_DIR "/program.txt", "surroundings"); }
-    /// Without a display, in a given environment. The program ends by itself.
+    /// Without a display the program ends by itself.
     void surroundings()
     {
         QFETCH(QStringList, fields);
@@ -89,7 +89,7 @@ private Q_SLOTS:
     }
 
     void report_data() { addRows(TEST_SOURCE_DIR "/program.txt", "reports"); }
-    /// To a file, with the time zone, and where no window could be seen.
+    /// To a file, in a time zone, and with a platform that has no display.
     void report()
     {
         QFETCH(QStringList, fields);
@@ -110,7 +110,7 @@ private Q_SLOTS:
         QCOMPARE(text.split('\n'), QString::fromUtf8(expected).split('\n'));
     }
 
-    /// A disk that is full leaves the earlier report as it was, and nothing beside it.
+    /// If the disk is full, the earlier report stays as it was, and there is no other file.
     void reportNotWritten()
     {
         const QTemporaryDir folder;
@@ -124,7 +124,7 @@ private Q_SLOTS:
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList("report"));
     }
 
-    /// A bus that takes the connection and then says nothing, which the toolkit waits for.
+    /// A bus that accepts the connection and then does not answer. Qt waits for it.
     void hangingBus()
     {
         const QTemporaryDir folder;

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-// Preloaded into the program, this is its user: visits every tab of the open window, saves the
-// report as SAVE_REPORT says, and leaves.
+// The program loads this library first, in place of a user: it visits every tab of the open window,
+// saves the report to the file SAVE_REPORT, and closes the windows.
 
 #include "TestSupport.h"
 

@@ -5,12 +5,12 @@
 
 namespace {
 
-// The toolkit's font library makes one where the system has none.
+// Qt's font library makes a cache if the system has none.
 const char FontCache[] = "XDG_CACHE_HOME/fontconfig";
 
 } // namespace
 
-/// What the program leaves behind when its user has seen everything and saved it.
+/// What remains of the program after its user has visited every tab and saved the report.
 class TracesTest : public QObject
 {
     Q_OBJECT
@@ -79,7 +79,7 @@ void TracesTest::files()
             files.append(line);
     }
     files.sort();
-    // The toolkit's file dialog remembers its last folder.
+    // Qt's file dialog remembers its last folder.
     QCOMPARE(files.join(QLatin1Char('\n')),
              QStringLiteral("XDG_CONFIG_HOME/QtProject.conf -----\nlog !!!!!\nreport !!!!!"));
 }
@@ -95,9 +95,9 @@ void TracesTest::systemCalls()
             line.contains(QLatin1String("O_RDONLY")) && !line.contains(QLatin1String("O_CREAT"));
         const bool fails = line.contains(QLatin1String(" = -1 "));
         const bool ends = line.isEmpty() || line.contains(QLatin1String(" resumed>"));
-        const bool ofToolkit = line.contains(QLatin1String("\"XDG_CONFIG_HOME")) ||
-                               line.contains(QLatin1Char('"') + QLatin1String(FontCache));
-        if (!reads && !fails && !ends && !ofToolkit)
+        const bool ofQt = line.contains(QLatin1String("\"XDG_CONFIG_HOME")) ||
+                          line.contains(QLatin1Char('"') + QLatin1String(FontCache));
+        if (!reads && !fails && !ends && !ofQt)
             calls.append(line.section(QLatin1Char(' '), 1).simplified());
     }
     calls.replaceInStrings(QRegularExpression(QStringLiteral("\", .*")), QStringLiteral("\""));

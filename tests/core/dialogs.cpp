@@ -72,7 +72,7 @@ private Q_SLOTS:
         QTest::addColumn<int>("ending");
         QTest::addColumn<int>("after");
         for (const DialogEnding &ending : dialogEndings) {
-            // A slot that deletes what is being deleted has no chance.
+            // A slot cannot delete what is being deleted.
             for (int after = Nothing; after <= (ending.destroys ? SlotDeletesLater : SlotDeletes);
                  ++after)
                 QTest::addRow("%s%s", ending.name, afterwards[after])
@@ -184,13 +184,13 @@ private Q_SLOTS:
         };
         for (const auto &row : rows) {
             QWidget window;
-            QWidget child(&window); // its window counts, not the child
+            QWidget child(&window); // the dialog is centred on its window
             window.setGeometry(row.parent);
             QDialog dialog(row.parent.isNull() ? nullptr : &child);
             dialog.setFixedSize(200, 100);
             dialog.show();
             CommonUtils::MoveCentre(&dialog);
-            // The window frame's width may come to it.
+            // The window's frame may be added.
             QVERIFY((dialog.frameGeometry().center() - row.expected).manhattanLength() <= 8);
         }
     }

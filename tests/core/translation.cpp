@@ -64,7 +64,7 @@ private Q_SLOTS:
 
     void lackingTextsAreEnglish()
     {
-        // A language file without a text, made from a translation that holds only one other.
+        // A language file with one text only.
         QTemporaryDir poor;
         const QString source = poor.filePath(QStringLiteral("host_fr.ts"));
         QVERIFY(QFile::copy(QStringLiteral(TEST_SOURCE_DIR "/poor.ts"), source));
@@ -89,7 +89,7 @@ private Q_SLOTS:
         }
     }
 
-    /// What the plug-in and its files rely on: tabs are found by their titles, SIM texts by a word.
+    /// The plug-in finds tabs by their titles and SIM texts by a word in them.
     void textsOthersRelyOn()
     {
         for (const QString &language : HostCore::languages(folder)) {

@@ -29,11 +29,11 @@ typedef xmlErrorPtr ErrorPointer;
 template <typename Object>
 using Owner = std::unique_ptr<Object, void (*)(Object *)>;
 
-/// Nobody writes such a configuration by hand.
-const qint64 LargestFile = 1 << 18; // bytes
+/// Far more than a configuration needs, in bytes.
+const qint64 LargestFile = 1 << 18;
 
-/// What becomes of something that the schema refuses, by the place of the element or attribute, or
-/// by the constraint.
+/// What the plug-in does with something that breaks the schema. The place is that of the element or
+/// attribute, or the name of the constraint.
 struct Consequence
 {
     const char *place;
@@ -74,8 +74,8 @@ QString text(const xmlChar *characters)
     return QString::fromUtf8(reinterpret_cast<const char *>(characters));
 }
 
-/// The check of a document. The parser calls it for each element, and then the validator that is
-/// plugged in behind it, whose errors therefore concern the current element.
+/// The check of a document. For each element the parser calls this class first and then the
+/// validator. So the validator's errors concern the current element.
 class DocumentCheck
 {
 public:
@@ -150,7 +150,7 @@ void DocumentCheck::run(xmlSchemaPtr schema)
     xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
 
-/// A validator is for a document that is well-formed: it leaks what is still open.
+/// The validator must only get a well-formed document: it leaks elements that are not closed.
 void DocumentCheck::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
 {
     const Owner<xmlParserCtxt> parser(
@@ -159,7 +159,7 @@ void DocumentCheck::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator
     const xmlSAXHandlerPtr ownHandler = m_parser->sax;
     m_parser->sax = &handler;
     m_parser->userData = this;
-    m_parser->replaceEntities = 1; // "&amp;" and its like: a document type was refused before
+    m_parser->replaceEntities = 1; // such as "&amp;"; a document type was refused before
     const xmlSchemaSAXPlugPtr plug =
         validator ? xmlSchemaSAXPlug(validator, &m_parser->sax, &m_parser->userData) : nullptr;
     xmlParseDocument(m_parser);
@@ -190,7 +190,7 @@ void DocumentCheck::add(int offset, const QString &text)
     m_explained.insert(position(offset));
 }
 
-// Its entities could stand for anything, at any length.
+// A document type may define entities of any content and length.
 void DocumentCheck::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
 {
     DocumentCheck *const check = from(self);
@@ -205,7 +205,7 @@ void DocumentCheck::onStart(void *self, const xmlChar *name, const xmlChar *, co
                             const xmlChar **, int count, int, const xmlChar **attributes)
 {
     DocumentCheck *const check = from(self);
-    // The parser stands behind the attributes, which can hold no '<'.
+    // The parser has read the attributes, and these cannot contain '<'.
     const int end = int(xmlByteConsumed(check->m_parser));
     Element element;
     element.parent = check->m_open.isEmpty() ? QString() : check->m_open.last().name;
@@ -219,7 +219,7 @@ void DocumentCheck::onStart(void *self, const xmlChar *name, const xmlChar *, co
     }
     static const QRegularExpression written(
         QStringLiteral("([^\\s=\"']+)\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
-    // One character a byte, whatever the encoding.
+    // One character for each byte, whatever the encoding, so that offsets fit.
     auto match = written.globalMatch(
         QString::fromLatin1(check->m_document.mid(element.offset, end - element.offset)));
     while (match.hasNext()) {
@@ -252,7 +252,7 @@ void DocumentCheck::onSyntaxError(void *self, ErrorPointer error)
 {
     DocumentCheck *const check = from(self);
     if (!check->m_findings.isEmpty())
-        return; // it follows from that one
+        return; // a consequence of the first error
     check->m_findings.insert({error->line, error->int2},
                              QString::fromUtf8(error->message).trimmed() +
                                  QStringLiteral(". The plug-in reads nothing behind it."));
@@ -271,7 +271,7 @@ void DocumentCheck::onSchemaError(void *self, ErrorPointer error)
     const QString attribute = attributePart.match(message).captured(1);
     const QString constraint = constraintPart.match(message).captured(1);
     const Position position = check->position(element.offsets.value(attribute, element.offset));
-    // A wrong attribute comes twice: once more as one that no constraint can compare.
+    // A wrong attribute is reported twice: the second error says that constraints ignore it.
     if ((error->code == XML_SCHEMAV_CVC_IDC && constraint.isEmpty()) ||
         check->m_explained.contains(position))
         return;
@@ -280,11 +280,11 @@ void DocumentCheck::onSchemaError(void *self, ErrorPointer error)
         place += QLatin1Char('@') + attribute;
     message.remove(facetPart);
     message += consequence(constraint.isEmpty() ? place : constraint);
-    if (!check->m_findings.contains(position, message)) // text may come in pieces
+    if (!check->m_findings.contains(position, message)) // a text in pieces has one error for each
         check->m_findings.insert(position, message);
 }
 
-/// What the schema cannot say of the current element.
+/// Checks rules about the current element that the schema cannot express.
 void DocumentCheck::checkStart()
 {
     const auto attribute = [this](const char *name) {
@@ -320,7 +320,7 @@ void DocumentCheck::checkStart()
     }
 }
 
-/// Nothing is loaded but what is handed over: no file, and nothing from the network.
+/// Keeps the parser from loading other files, or anything from the network.
 xmlParserInputPtr loadNothing(const char *, const char *, xmlParserCtxtPtr)
 {
     return nullptr;
@@ -350,7 +350,7 @@ bool ConfigCheck::run(const QString &fileName, const QString &schemaFile, QStrin
     QByteArray schemaText;
     if (!readFile(fileName, &document, error) || !readFile(schemaFile, &schemaText, error))
         return false;
-    if (document.isEmpty()) { // which the parser does not take
+    if (document.isEmpty()) { // the parser does not accept it
         findings->append(QStringLiteral("1:1: The file is empty."));
         return true;
     }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-// A plug-in that behaves as definitions say. What the host does to it is counted in properties of
-// the application, which outlives it.
+// A plug-in whose faults are compile definitions. It counts the host's calls in properties of the
+// application, which outlives it.
 
 #include "interfaces/INotify.h"
 #include "interfaces/IUIPlugin.h"

@@ -8,6 +8,7 @@
 #include "modem/ModemSource.h"
 #include "report/DiagnosticsReader.h"
 #include "report/Masking.h"
+#include "window/Diagnostics.h"
 #include "window/MainWindow.h"
 #include "window/PluginLoader.h"
 
@@ -65,7 +66,7 @@ private Q_SLOTS:
         for (const char *counter : {"destroyed", "deleted", "notified", "opens", "ready"})
             qApp->setProperty(counter, 0);
         QString error;
-        QVERIFY2(m_modem.attach("wcdma", &error), qPrintable(error));
+        QVERIFY2(m_modem.attach("wcdma", ModemSource::Replaced, &error), qPrintable(error));
     }
 
     void loader_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "loader"); }
@@ -100,32 +101,29 @@ private Q_SLOTS:
         QCOMPARE(loader.error(), QString());
     }
 
-    void modemWindow()
+    void hostWindow()
     {
         PluginLoader loader(file("libplugin_good.so"));
         QVERIFY(loader.start());
-        MainWindow window(m_modem, loader);
+        Diagnostics diagnostics(m_modem, loader, QString(), "en");
+        MainWindow window(m_modem, diagnostics);
         window.show();
-        const QWidgetList windows = QApplication::topLevelWidgets();
-        const auto found = std::find_if(windows.begin(), windows.end(), [](QWidget *other) {
-            return other->inherits("ModemWindow");
-        });
-        QVERIFY(found != windows.end() && (*found)->isVisible());
-        const QWidget *const modem = *found;
-        auto *const state = modem->findChild<QLabel *>("ModemWindow_labelState");
+        auto *const state = window.findChild<QLabel *>("MainWindow_labelState");
+        auto *const verdict = window.findChild<QLabel *>("MainWindow_labelVerdict");
         QPushButton *const buttons[] = {
-            modem->findChild<QPushButton *>("ModemWindow_pushButtonUnplug"),
-            modem->findChild<QPushButton *>("ModemWindow_pushButtonPlugIn")};
+            window.findChild<QPushButton *>("MainWindow_pushButtonUnplug"),
+            window.findChild<QPushButton *>("MainWindow_pushButtonPlugIn")};
         for (const bool plugged : {false, true}) {
             buttons[plugged]->click();
             QCOMPARE(SdkControl::isPlugged(), plugged);
             QCOMPARE(state->text(), plugged ? "Plugged in" : "Unplugged");
+            QCOMPARE(verdict->text(),
+                     plugged ? "The modem is connected." : "No modem is plugged in.");
             QVERIFY(!buttons[plugged]->isEnabled() && buttons[!plugged]->isEnabled());
         }
         QCOMPARE(count("notified"), 0);
         window.close();
         QCOMPARE(count("notified"), 1);
-        QVERIFY(!modem->isVisible());
     }
 
     void hostPlugins_data() { addRows(TEST_SOURCE_DIR "/parts.txt", "host plug-ins"); }
@@ -183,7 +181,8 @@ private Q_SLOTS:
         QVERIFY2(loader.start(), qPrintable(loader.error()));
         for (const char *language : {"de", "en"}) {
             QVERIFY(HostCore::setLanguage(built.filePath(HOST_DATA_DIR "/translations"), language));
-            MainWindow window(m_modem, loader);
+            Diagnostics diagnostics(m_modem, loader, QString(), language);
+            MainWindow window(m_modem, diagnostics);
             window.show();
             QVERIFY(!DiagnosticsReader().window());
             QVERIFY(window.openDiagnostics());

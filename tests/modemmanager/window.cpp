@@ -67,7 +67,7 @@ void ModemManagerWindow::window()
     HostCore::setPluginLibraryPath(LIBRARY_FOLDER);
     ModemSource modem{QString()};
     QString error;
-    QVERIFY2(modem.attach("auto", &error), qPrintable(error));
+    QVERIFY2(modem.attach("auto", ModemSource::Replaced, &error), qPrintable(error));
     QVERIFY(!modem.isSimulated());
     QCOMPARE(modem.description(), QString("TM-V1"));
     // The last to come is what the set-up of the signal brings.

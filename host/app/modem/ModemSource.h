@@ -4,6 +4,8 @@
 #ifndef MODEMSOURCE_H
 #define MODEMSOURCE_H
 
+#include "modem/Verdict.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -23,8 +25,16 @@ public:
     /// modem, or a simulated one where it has none).
     QStringList names() const;
 
-    /// Attaches a modem; false, with the reason in *\a error, when the name or its file is wrong.
-    bool attach(const QString &name, QString *error);
+    /// What becomes of "auto" if there is no service or no modem.
+    enum Absence
+    {
+        Reported,
+        Replaced ///< a simulated modem takes the place
+    };
+
+    /// Attaches a modem. Waits a short time for the service's first answer. Returns false, with the
+    /// reason in *\a error, if the name or its file is wrong.
+    bool attach(const QString &name, Absence absence, QString *error);
 
     /// Takes the modem away. False when the system's message bus hangs, so that the program must
     /// leave without the toolkit's end.
@@ -35,18 +45,20 @@ public:
     QString name() const { return m_name; }
     QString description() const;
 
-    /// What is missing or does not answer, in a sentence; empty while all is well.
-    QString problem() const;
+    /// Why a simulated modem took the place of the service's; empty if none did.
+    QString fallback() const { return m_fallback; }
+
+    /// As the modem is now.
+    ModemState state() const { return ModemState::read(m_index); }
+    Verdict verdict() const { return Verdict(state()); }
 
 private:
     bool attachSimulated(const QString &name, QString *error);
 
-    QString serviceProblem() const;
-
     const QString m_folder;
     int m_index; ///< of the wanted modem of the service
     QString m_name;
-    QString m_fallback; ///< why "auto" took a simulated modem
+    QString m_fallback;
     bool m_simulated;
     bool m_hanging;
 };

@@ -115,8 +115,8 @@ const Row Rows[] = {
     {"modem-failed",        TEXT("The modem failed: its eSIM has no profile."),
         WHEN(s.condition.state == Failed && s.condition.failedReason == NoProfiles), nullptr},
     {"modem-failed",        TEXT("The modem failed, and does not say why."),
-        WHEN((s.condition.state == Failed && s.condition.failedReason != SimMissing) ||
-             (!s.answers && s.result != VELT_SUCCESS)), nullptr},
+        WHEN((s.condition.state == Failed || (!s.answers && s.result != VELT_SUCCESS)) &&
+             s.condition.failedReason != SimMissing), nullptr},
     {"no-sim",              TEXT("There is no SIM in the modem."),
         WHEN(s.simStatus == NoCard || s.condition.failedReason == SimMissing), nullptr},
     {"pin-required",        TEXT("The SIM asks for its PIN (tries left: %1)."),

@@ -3,6 +3,7 @@
 
 #include "window/MainWindow.h"
 
+#include "HostCore.h"
 #include "SdkControl.h"
 #include "modem/ModemSource.h"
 #include "window/Diagnostics.h"
@@ -11,11 +12,13 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFontInfo>
 #include <QFormLayout>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace {
@@ -27,6 +30,9 @@ QLabel *newLabel(const char *name)
     label->setTextFormat(Qt::PlainText); // names from the air must not be read as markup
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setWordWrap(true);
+    // So that Latin texts stay beside their captions in windows from right to left.
+    label->setAlignment(QStyle::visualAlignment(QGuiApplication::layoutDirection(), Qt::AlignLeft) |
+                        Qt::AlignAbsolute | Qt::AlignTop);
     return label;
 }
 
@@ -42,11 +48,12 @@ QString sdkText(TextValue value)
     return QString::fromStdString(SdkControl::text(value));
 }
 
-/// The texts that are not empty.
+/// The texts that are not empty, or the unknown text.
 QString joined(QStringList texts)
 {
     texts.removeAll(QString());
-    return texts.join(QStringLiteral(", "));
+    return texts.isEmpty() ? HostCore::pluginText(QStringLiteral("IDS_MAINFRM_UNKNOWN"))
+                           : texts.join(QStringLiteral(", "));
 }
 
 } // namespace
@@ -61,7 +68,7 @@ MainWindow::MainWindow(const ModemSource &modem, Diagnostics &diagnostics)
     setWindowTitle(tr("Diagnosis host"));
     setObjectName(QStringLiteral("MainWindow"));
     QFont large = font();
-    large.setPointSizeF(large.pointSizeF() * 1.3);
+    large.setPixelSize(fontInfo().pixelSize() * 5 / 4);
     large.setBold(true);
     m_verdict->setFont(large);
     m_hideIdentifiers->setObjectName(QStringLiteral("MainWindow_checkBoxHideIdentifiers"));
@@ -109,7 +116,6 @@ MainWindow::MainWindow(const ModemSource &modem, Diagnostics &diagnostics)
     layout->addLayout(buttons);
     layout->addWidget(m_message);
     fallback->setVisible(!modem.fallback().isEmpty());
-    m_message->setVisible(false);
     m_plugIn->setVisible(modem.isSimulated()); // a real modem comes and goes by itself
     m_unplug->setVisible(modem.isSimulated());
     resize(460, sizeHint().height());
@@ -126,7 +132,7 @@ MainWindow::MainWindow(const ModemSource &modem, Diagnostics &diagnostics)
 bool MainWindow::openDiagnostics()
 {
     const bool opened = m_diagnostics.open(this);
-    say(opened ? QString() : tr("The diagnostics window could not be opened."));
+    m_message->setText(opened ? QString() : tr("The diagnostics window could not be opened."));
     return opened;
 }
 
@@ -176,7 +182,7 @@ void MainWindow::copyReport()
     if (text.isNull())
         return;
     QGuiApplication::clipboard()->setText(QString::fromUtf8(text));
-    say(tr("The report was copied."));
+    m_message->setText(tr("The report was copied."));
 }
 
 void MainWindow::chooseReportFile()
@@ -196,26 +202,21 @@ void MainWindow::saveReport(const QString &fileName)
     QString error;
     if (text.isNull())
         return;
-    say(Report::write(text, fileName, &error) ? tr("The report was saved.")
-                                              : tr("The report was not saved: %1").arg(error));
+    m_message->setText(Report::write(text, fileName, &error)
+                           ? tr("The report was saved.")
+                           : tr("The report was not saved: %1").arg(error));
 }
 
 QByteArray MainWindow::report(bool asJson)
 {
     Report::Content content;
     if (!m_diagnostics.read(Diagnostics::Immediate, &content)) {
-        say(tr("The diagnostics window could not be opened."));
+        m_message->setText(tr("The diagnostics window could not be opened."));
         return QByteArray();
     }
     const Report report(content,
                         m_hideIdentifiers->isChecked() ? Report::Masked : Report::Unmasked);
     return asJson ? report.json() : report.text().toUtf8();
-}
-
-void MainWindow::say(const QString &text)
-{
-    m_message->setText(text);
-    m_message->setVisible(!text.isEmpty());
 }
 
 void MainWindow::showModem()
@@ -226,11 +227,11 @@ void MainWindow::showModem()
     for (const RadioLevel &level : state.levels)
         levels.append(level.text());
     m_verdict->setText(Verdict(state).text);
-    m_description->setText(sdkText(TextValue::Description));
+    m_description->setText(joined({sdkText(TextValue::Description)}));
     m_state->setText(plugged ? tr("Plugged in") : tr("Unplugged"));
-    m_network->setText(
-        plugged ? joined({sdkText(TextValue::ServiceName), sdkText(TextValue::NetworkType)})
-                : QString());
+    m_network->setText(joined(
+        plugged ? QStringList({sdkText(TextValue::ServiceName), sdkText(TextValue::NetworkType)})
+                : QStringList()));
     m_signal->setText(joined(levels));
     m_plugIn->setEnabled(!plugged);
     m_unplug->setEnabled(plugged);

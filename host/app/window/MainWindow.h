@@ -39,7 +39,6 @@ private:
     void chooseReportFile();
     void saveReport(const QString &fileName);
     void showModem();
-    void say(const QString &text);
     /// Null, which the window then says, if the diagnostics window could not be opened.
     QByteArray report(bool asJson);
 

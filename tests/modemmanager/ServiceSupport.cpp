@@ -88,6 +88,11 @@ Pairs readSdk()
     static const char *const statusNames[] = {"Detached",     "Starting", "NoBus",  "NoService",
                                               "NotAnswering", "NoModem",  "Present"};
     values["status"] = statusNames[static_cast<int>(ModemService::status())];
+    const ModemService::Condition condition = ModemService::condition();
+    values["condition"] = QString("%1 %2 %3")
+                              .arg(condition.state)
+                              .arg(condition.failedReason)
+                              .arg(condition.powerState);
     for (const TextValue value : {TextValue::ServiceName, TextValue::NetworkType,
                                   TextValue::Profile, TextValue::Apn, TextValue::Description})
         values[textKeys()[static_cast<size_t>(value)]] =

@@ -56,8 +56,8 @@ private:
     Program m_daemon;
 };
 
-/// All that the SDK says: SdkCalls::answers(); the different ones of them as "all"; "status" and
-/// the keys of what the host alone reads; "events", what was taken.
+/// All that the SDK says: SdkCalls::answers(); the different ones of them as "all"; "status",
+/// "condition" and the keys of what the host alone reads; "events", what was taken.
 Pairs readSdk();
 
 /// What differs from the expected pairs; empty when nothing does.

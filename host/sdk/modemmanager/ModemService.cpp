@@ -22,22 +22,18 @@ using Milliseconds = std::chrono::milliseconds;
 class Worker : public QThread
 {
 public:
-    Worker(int index, const ServiceWatcher::Report &report)
-        : m_index(index), m_timing(serviceTiming()), m_report(report)
+    Worker(int index, int generation)
+        : m_index(index), m_generation(generation), m_timing(serviceTiming())
     {
     }
 
 protected:
-    void run() override
-    {
-        const ServiceWatcher watcher(m_index, m_timing, m_report);
-        exec();
-    }
+    void run() override;
 
 private:
     const int m_index;
+    const int m_generation;
     const ServiceTiming m_timing;
-    const ServiceWatcher::Report m_report;
 };
 
 struct Attachment
@@ -49,6 +45,7 @@ struct Attachment
     std::condition_variable changed;
     int generation = 0; ///< number of the current worker; reports of earlier ones are dropped
     Status status = Status::Detached;
+    ServiceWatcher *watcher = nullptr; ///< the worker's
     std::shared_ptr<ServiceModem> modem;
     ServiceModem::Clock::time_point validUntil;
     int confirmation = 0; ///< ms
@@ -60,6 +57,13 @@ struct Attachment
     {
         status = newStatus;
         validUntil = ServiceModem::Clock::now() + Milliseconds(confirmation);
+    }
+
+    void callListener()
+    {
+        std::lock_guard<std::mutex> lock(listening);
+        if (listener)
+            listener();
     }
 
     /// Null if there is none or its reading no longer counts.
@@ -79,13 +83,19 @@ Attachment &attachment()
 const unsigned long patience = 1000; // ms
 
 /// Takes a report of the worker.
-void report(int generation, Status status, const std::shared_ptr<ServiceModem> &modem)
+void report(int generation, Status status, const std::shared_ptr<ServiceModem> &modem, bool changed)
 {
     Attachment &state = attachment();
     Lock lock(state.mutex);
     if (generation != state.generation)
         return;
+    if (status == Status::NotAnswering) {
+        lock.unlock();
+        state.callListener();
+        return;
+    }
     const std::shared_ptr<ServiceModem> before = state.modem;
+    const bool isNew = changed || status != state.status;
     state.confirm(status);
     state.modem = modem;
     SdkControl::update(modem);
@@ -100,9 +110,34 @@ void report(int generation, Status status, const std::shared_ptr<ServiceModem> &
     if (modem && modem->isReady() && !(same && before->isReady()))
         SdkControl::raiseEvent(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
 
-    std::lock_guard<std::mutex> listening(state.listening);
-    if (state.listener)
-        state.listener();
+    if (isNew)
+        state.callListener();
+}
+
+/// Asks for a newer reading.
+void readAgain()
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    if (state.watcher)
+        QMetaObject::invokeMethod(state.watcher, "read", Qt::QueuedConnection);
+}
+
+void Worker::run()
+{
+    Attachment &state = attachment();
+    const auto takeReport = [this](Status status, const std::shared_ptr<ServiceModem> &modem,
+                                   bool changed) { report(m_generation, status, modem, changed); };
+    ServiceWatcher watcher(m_index, m_timing, takeReport, readAgain);
+    const auto offer = [&](ServiceWatcher *offered) {
+        Lock lock(state.mutex);
+        // A worker that hung may get here after detach().
+        if (m_generation == state.generation)
+            state.watcher = offered;
+    };
+    offer(&watcher);
+    exec();
+    offer(nullptr);
 }
 
 } // namespace
@@ -129,10 +164,7 @@ void attach(int index)
         state.modem.reset();
         SdkControl::attach(nullptr);
     }
-    state.worker = std::make_unique<Worker>(
-        index, [generation](Status status, const std::shared_ptr<ServiceModem> &modem) {
-            report(generation, status, modem);
-        });
+    state.worker = std::make_unique<Worker>(index, generation);
     state.worker->start();
 }
 
@@ -150,6 +182,7 @@ bool detach()
     Lock lock(state.mutex);
     ++state.generation;
     state.status = Status::Detached;
+    state.watcher = nullptr;
     state.modem.reset();
     SdkControl::attach(nullptr);
     return ended;
@@ -179,17 +212,24 @@ Condition condition()
     Attachment &state = attachment();
     Lock lock(state.mutex);
     const auto modem = state.validModem();
-    return modem ? modem->condition() : Condition{0, 0, 0};
+    return modem ? modem->readings().condition : Condition{0, 0, 0};
 }
 
 std::vector<Detail> details()
 {
-    return {};
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    const auto modem = state.validModem();
+    return modem ? modem->readings().details : std::vector<Detail>();
 }
 
-bool waitForSignal(int)
+bool waitForSignal(int milliseconds)
 {
-    return true;
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    return state.changed.wait_for(lock, Milliseconds(milliseconds), [&] {
+        return !state.modem || !state.modem->readings().awaitsSignal;
+    });
 }
 
 void setListener(const std::function<void()> &changed)

@@ -529,6 +529,161 @@
     </message>
 </context>
 <context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>الراديو والخدمة</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>المودم</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>الخلية</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>فتحة SIM</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>الحالة</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>سبب العطل</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>الطاقة</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>الرمز المطلوب</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>المحاولات المتبقية</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>الشركة المصنعة</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>مراجعة البرنامج الثابت</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>معرّف الجهاز</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>القدرات</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>الأوضاع</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>النطاقات</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>تقنيات الوصول</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>جودة الإشارة</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>التسجيل</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>سبب الرفض</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>خدمة الحزم</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>رمز المشغل</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>اسم المشغل</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>هوية الخلية</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>نشطة</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>الواجهة</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>عائلة العناوين</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>طريقة IPv4</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>عنوان IPv4</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>طريقة IPv6</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>عنوان IPv6</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>المستلم</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>المرسل</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>آخر خطأ</translation>
+    </message>
+</context>
+<context>
     <name>QGuiApplication</name>
     <message>
         <source>QT_LAYOUT_DIRECTION</source>

@@ -528,4 +528,159 @@
         <translation>Das Modem teilt zu wenig für einen Befund mit.</translation>
     </message>
 </context>
+<context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>Funk und Dienst</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Zelle</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>SIM-Steckplatz</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>Grund des Ausfalls</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Betriebsart</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>Verlangter Code</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>Verbleibende Versuche</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>Firmwarestand</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>Gerätekennung</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>Fähigkeiten</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Betriebsmodi</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>Frequenzbänder</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>Zugangstechniken</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>Signalqualität</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>Registrierung</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>Ursache der Abweisung</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>Paketdienst</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>Betreibercode</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>Betreibername</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>Zellkennung</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>Adressfamilie</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>IPv4-Verfahren</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>IPv4-Adresse</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>IPv6-Verfahren</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>IPv6-Adresse</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Empfangen</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>Letzter Fehler</translation>
+    </message>
+</context>
 </TS>

@@ -528,4 +528,159 @@
         <translation>El módem no da datos suficientes para un dictamen.</translation>
     </message>
 </context>
+<context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>Radio y servicio</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Celda</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>Ranura SIM</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>Motivo del fallo</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Alimentación</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>Código requerido</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>Intentos restantes</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Fabricante</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>Revisión del firmware</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>Identificador del equipo</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>Capacidades</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Modos</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>Bandas</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>Tecnologías de acceso</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>Calidad de la señal</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>Causa del rechazo</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>Servicio de paquetes</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>Código del operador</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>Nombre del operador</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>Identidad de la celda</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Activa</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectada</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Interfaz</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>Familia de direcciones</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>Método IPv4</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>Dirección IPv4</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>Método IPv6</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>Dirección IPv6</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>Último error</translation>
+    </message>
+</context>
 </TS>

@@ -528,4 +528,159 @@
         <translation>Le modem n'en dit pas assez pour conclure.</translation>
     </message>
 </context>
+<context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>Radio et service</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Cellule</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>Emplacement SIM</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>Cause de la panne</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Alimentation</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>Code demandé</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>Essais restants</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Fabricant</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>Révision du micrologiciel</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>Identifiant de l'équipement</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>Capacités</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Modes</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>Bandes</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>Technologies d'accès</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>Qualité du signal</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>Cause du refus</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>Service de paquets</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>Code de l'opérateur</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>Nom de l'opérateur</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>Identité de la cellule</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Active</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connectée</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Interface</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>Famille d'adresses</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>Méthode IPv4</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>Adresse IPv4</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>Méthode IPv6</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>Adresse IPv6</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>Dernière erreur</translation>
+    </message>
+</context>
 </TS>

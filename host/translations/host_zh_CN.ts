@@ -528,4 +528,159 @@
         <translation>调制解调器提供的信息不足，无法判断。</translation>
     </message>
 </context>
+<context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>无线与服务</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>调制解调器</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>网络</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>小区</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>SIM 卡槽</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>连接</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>故障原因</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>电源</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>所需解锁码</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>剩余解锁次数</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>制造商</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>固件修订版</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>设备标识</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>频段</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>接入技术</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>信号质量</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>注册</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>拒绝原因</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>分组域服务</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>运营商代码</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>运营商名称</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>小区标识</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已连接</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>接口</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>地址族</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>IPv4 方式</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>IPv4 地址</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>IPv6 方式</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>IPv6 地址</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>已发送</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>最近的错误</translation>
+    </message>
+</context>
 </TS>

@@ -74,10 +74,16 @@ private Q_SLOTS:
     void verdict()
     {
         QFETCH(QStringList, fields);
+        setLanguage("en");
         const Verdict verdict(changed(fields.at(1)));
         QCOMPARE(verdict.code, fields.at(2));
         QCOMPARE(verdict.text, fields.at(3));
         QCOMPARE(verdict.noModem ? "9" : "0", fields.at(4));
+        for (const char *language : {"ar", "de", "es", "fr", "zh_CN"}) {
+            setLanguage(language);
+            const QString text = Verdict(changed(fields.at(1))).text;
+            QVERIFY2(text != verdict.text && !text.contains('%'), language);
+        }
         const QString row = QString("\n| %1 | `%2` | %3 |\n");
         const QString document = contentOf(DIAG_SOURCE_DIR "/docs/report.md");
         QVERIFY(document.contains(row.arg(fields.at(0), fields.at(2), fields.at(4))));

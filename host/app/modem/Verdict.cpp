@@ -62,6 +62,20 @@ const double WeakRscp = -110;
 const double WeakRsrp = -125;
 const double TellsNothing = std::numeric_limits<double>::lowest();
 
+const QString Dbm = QStringLiteral("dBm");
+const QString Db = QStringLiteral("dB");
+
+/// The levels that ModemManager tells and the SDK does not.
+const struct
+{
+    const char *group;
+    const char *name;
+    double weakest;
+} ServiceLevels[] = {
+    {"LTE", "RSRP", WeakRsrp}, {"LTE", "RSRQ", TellsNothing}, {"LTE", "SNR", TellsNothing},
+    {"5G", "RSRP", WeakRsrp},  {"5G", "RSRQ", TellsNothing},  {"5G", "SNR", TellsNothing},
+};
+
 bool isRegistration(int state)
 {
     return state == Home || state == Roaming;
@@ -172,18 +186,17 @@ const Row Rows[] = {
 
 } // namespace
 
-QString RadioLevel::text() const
-{
-    return QStringLiteral("%1 %2 %3")
-        .arg(QLatin1String(name), QString::number(value), QLatin1String(unit));
-}
-
 ModemState ModemState::read(int index)
 {
     ModemState state;
     state.index = index;
     state.service = ModemService::status();
     state.condition = ModemService::condition();
+    const std::vector<ModemService::Detail> details = ModemService::details();
+    for (const ModemService::Detail &detail : details) {
+        if (detail.group == "Network" && detail.name == "Rejection cause")
+            state.rejection = QString::fromStdString(detail.value);
+    }
 
     // Leaves the number as it is if the function fails.
     const auto noted = [&state](VELT_ERROR result) {
@@ -215,12 +228,23 @@ ModemState ModemState::read(int index)
         noted(VELT_DevSrv_GetProductType(&product));
         const bool isTdScdma = product == VELT_PRODUCT_TD_SCDMA;
         if (pair.first >= 0 && pair.first <= (isTdScdma ? 91 : 31))
-            state.levels.append(
-                {"RSSI", isTdScdma ? pair.first - 116.0 : 2 * pair.first - 113.0, "dBm", WeakRssi});
+            state.levels.append({QStringLiteral("RSSI"),
+                                 isTdScdma ? pair.first - 116.0 : 2 * pair.first - 113.0, Dbm,
+                                 WeakRssi});
     }
     if (noted(VELT_NetSrv_GetSignalQuality(&pair)) == VELT_SUCCESS)
-        state.levels.append({{"RSCP", double(pair.first), "dBm", WeakRscp},
-                             {"Ec/Io", double(pair.second), "dB", TellsNothing}});
+        state.levels.append({{QStringLiteral("RSCP"), double(pair.first), Dbm, WeakRscp},
+                             {QStringLiteral("Ec/Io"), double(pair.second), Db, TellsNothing}});
+    for (const auto &level : ServiceLevels) {
+        for (const ModemService::Detail &detail : details) {
+            const QString value = QString::fromStdString(detail.value);
+            if (detail.group == level.group && detail.name == level.name)
+                state.levels.append(
+                    {QLatin1String(level.group) + QLatin1Char(' ') + QLatin1String(level.name),
+                     value.section(QLatin1Char(' '), 0, 0).toDouble(),
+                     value.section(QLatin1Char(' '), 1), level.weakest});
+        }
+    }
     return state;
 }
 

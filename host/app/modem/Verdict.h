@@ -14,12 +14,15 @@
 /// A level that the modem receives, in the unit that its kind has.
 struct RadioLevel
 {
-    const char *name;
+    QString name;
     double value;
-    const char *unit;
+    QString unit;
     double weakest; ///< a signal below it is weak; the least number if the level does not tell
 
-    QString text() const;
+    QString text() const
+    {
+        return name + QLatin1Char(' ') + QString::number(value) + QLatin1Char(' ') + unit;
+    }
 };
 
 /// What a verdict is derived from: what the SDK answers at one moment, and what ModemManager says,

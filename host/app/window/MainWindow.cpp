@@ -115,6 +115,7 @@ MainWindow::MainWindow(const ModemSource &modem, Diagnostics &diagnostics)
     layout->addWidget(m_hideIdentifiers);
     layout->addLayout(buttons);
     layout->addWidget(m_message);
+    m_message->setMinimumHeight(fontMetrics().height());
     fallback->setVisible(!modem.fallback().isEmpty());
     m_plugIn->setVisible(modem.isSimulated()); // a real modem comes and goes by itself
     m_unplug->setVisible(modem.isSimulated());
@@ -134,6 +135,15 @@ bool MainWindow::openDiagnostics()
     const bool opened = m_diagnostics.open(this);
     m_message->setText(opened ? QString() : tr("The diagnostics window could not be opened."));
     return opened;
+}
+
+bool MainWindow::event(QEvent *event)
+{
+    const bool handled = QWidget::event(event);
+    // Texts that need another line get it.
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+        setMinimumHeight(layout()->totalHeightForWidth(width()));
+    return handled;
 }
 
 void MainWindow::showEvent(QShowEvent *event)

@@ -29,6 +29,7 @@ public:
     bool openDiagnostics();
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 

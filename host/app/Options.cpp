@@ -35,8 +35,8 @@ struct KnownOption
 const KnownOption KnownOptions[] = {
     {"modem", "name",
      "Attach this modem: a simulated one, \"modemmanager\" for the first modem of the system's service, "
-     "\"modemmanager:1\" for the second, or \"auto\" (the default) for the service's where there is one "
-     "and in a window a simulated one otherwise."},
+     "\"modemmanager:1\" for the second, or \"auto\" (the default) for the service's; a window then takes a "
+     "simulated one if there is none."},
     {"list-modems", "", "List the modems and exit."},
     {"language", "name", "Show texts in this language (default: the system's, else English)."},
     {"open", "", "Open the diagnostics window at once."},

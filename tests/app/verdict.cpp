@@ -10,10 +10,12 @@
 #include "window/PluginLoader.h"
 
 #include <QClipboard>
+#include <QFileDialog>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QtTest>
 
@@ -150,13 +152,28 @@ private Q_SLOTS:
         const QString value = QString::fromUtf8("a\u0007\u0085\u202e\u2028\u2029\u200f\U000e0041z");
         content.pages = {{"Tab", "T", {{"A", "A", value}, {"B", "B", "not implement"}}}};
         content.details = {{"G 12", "N", value.toStdString(), DetailKind::Plain}};
+        content.lacksSignal = true;
         const Report report(content, Report::Unmasked);
+        QVERIFY(report.text().contains("\n  Signal: ModemManager has not read it in time\n"));
         const QString cleaned = 'a' + QString(7, QChar::ReplacementCharacter) + "z\n";
         QVERIFY(report.text().contains("\nT\n  A: " + cleaned));
         QVERIFY(report.text().contains("\n  G 12, N: " + cleaned));
         const QJsonArray rows = QJsonDocument::fromJson(report.json())["tabs"][0]["rows"].toArray();
         QCOMPARE(rows[0].toObject()["value"].toString(), value);
         QVERIFY(rows[0].toObject()["known"].toBool() && !rows[1].toObject()["known"].toBool());
+    }
+
+    /// There is no service: only a window may show a simulated modem, and says why.
+    void absence()
+    {
+        setLanguage("de");
+        ModemSource modem(DIAG_SOURCE_DIR "/host/modems");
+        QString error;
+        QVERIFY(modem.attach("auto", ModemSource::Reported, &error));
+        QVERIFY(!modem.isSimulated() && modem.verdict().noModem && modem.fallback().isEmpty());
+        QVERIFY(modem.attach("auto", ModemSource::Replaced, &error));
+        QVERIFY(modem.isSimulated() && !modem.verdict().noModem);
+        QCOMPARE(modem.fallback(), QString("Der Nachrichtenbus des Systems antwortet nicht."));
     }
 
     /// Each failed function once, in the order of the questions, and nothing of what the host asks.
@@ -205,6 +222,13 @@ private Q_SLOTS:
         QTRY_COMPARE(verdict->text(), QString("The modem is connected."));
         press("CopyReport");
         QVERIFY(QGuiApplication::clipboard()->text().contains("  IMEI: 00101700*******\n"));
+        const QTemporaryDir folder;
+        press("SaveReport");
+        auto *const dialog = window.findChild<QFileDialog *>("MainWindow_fileDialog");
+        dialog->findChild<QLineEdit *>()->setText(folder.filePath("report.json"));
+        QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
+        const auto saved = QJsonDocument::fromJson(contentOf(folder.filePath("report.json")));
+        QCOMPARE(saved["identifiers"].toString(), QString("masked"));
         opened->close();
         press("Diagnostics");
         QVERIFY(DiagnosticsReader().window());

@@ -18,7 +18,7 @@ const QString simulatedDefault = QStringLiteral("wcdma");
 
 // How long the start may wait for the service's first answer, ms.
 const int windowStart = 1000;
-const int longestStart = 2000;
+const int longestStart = 1500;
 
 } // namespace
 

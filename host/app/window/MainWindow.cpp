@@ -202,6 +202,11 @@ void MainWindow::chooseReportFile()
     dialog->setObjectName(QStringLiteral("MainWindow_fileDialog"));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("txt"));
+    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) {
+        const bool isJson = filter.startsWith(QLatin1String("JSON"));
+        dialog->setDefaultSuffix(isJson ? QStringLiteral("json") : QStringLiteral("txt"));
+    });
     connect(dialog, &QFileDialog::fileSelected, this, &MainWindow::saveReport);
     dialog->open();
 }
@@ -238,7 +243,12 @@ void MainWindow::showModem()
         levels.append(level.text());
     m_verdict->setText(Verdict(state).text);
     m_description->setText(joined({sdkText(TextValue::Description)}));
-    m_state->setText(plugged ? tr("Plugged in") : tr("Unplugged"));
+    const bool isStateKnown = state.service == ModemService::Status::Detached ||
+                              state.service == ModemService::Status::NoModem ||
+                              state.service == ModemService::Status::Present;
+    m_state->setText(joined({!isStateKnown ? QString()
+                             : plugged     ? tr("Plugged in")
+                                           : tr("Unplugged")}));
     m_network->setText(joined(
         plugged ? QStringList({sdkText(TextValue::ServiceName), sdkText(TextValue::NetworkType)})
                 : QStringList()));

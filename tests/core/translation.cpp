@@ -51,8 +51,7 @@ private Q_SLOTS:
         for (const char *wrong : {"xx", "", "../translations/host_en", "en.qm"})
             QVERIFY(!HostCore::setLanguage(folder, QLatin1String(wrong)));
         QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), QStringLiteral("Unbekannt"));
-        QCOMPARE(QCoreApplication::translate("MainWindow", "&Unplug"),
-                 QStringLiteral("&Abziehen"));
+        QCOMPARE(QCoreApplication::translate("MainWindow", "&Unplug"), QStringLiteral("&Abziehen"));
     }
 
     void unknownKeysAreEmpty()

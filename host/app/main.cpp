@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "Commands.h"
-#include "Display.h"
 #include "ExitCode.h"
 #include "HostCore.h"
 #include "HostFiles.h"
 #include "Log.h"
 #include "Options.h"
+#include "Platform.h"
 #include "modem/ModemSource.h"
 
 #include <QApplication>
@@ -18,7 +18,7 @@
 
 int main(int argc, char *argv[])
 {
-    Display::choose(Options::needNoScreen(argc, argv));
+    Platform::choose(Options::needNoScreen(argc, argv));
     Log::install();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
@@ -54,7 +54,7 @@ int main(int argc, char *argv[])
 
     HostCore::setSettingsFile(HostFiles::path(HostFiles::Settings));
     HostCore::applyLook(application);
-    const bool isSeen = !options.endsByItself() && !Display::isMissing();
+    const bool isSeen = !options.endsByItself() && !Platform::isMissing();
     if (!modem.attach(options.modem, isSeen ? ModemSource::Replaced : ModemSource::Reported,
                       &error))
         return fail(WrongUsage, error);

@@ -93,6 +93,9 @@ Pairs readSdk()
                               .arg(condition.state)
                               .arg(condition.failedReason)
                               .arg(condition.powerState);
+    for (const ModemService::Detail &detail : ModemService::details())
+        values[QString::fromStdString(detail.group + ' ' + detail.name)] =
+            QString::fromStdString(detail.value);
     for (const TextValue value : {TextValue::ServiceName, TextValue::NetworkType,
                                   TextValue::Profile, TextValue::Apn, TextValue::Description})
         values[textKeys()[static_cast<size_t>(value)]] =
@@ -131,6 +134,7 @@ void perform(const QStringList &steps, Commands commands)
         timer.start();
         QVERIFY(!ModemService::isPresent(5000) && timer.elapsed() < 2000);
     };
+    commands["signal-read"] = [](const QString &) { QVERIFY(ModemService::waitForSignal(3000)); };
     commands["events"] = [](const QString &) { startEvents(); };
     commands["expect"] = [](const QString &pairs) { EXPECT(pairs); };
     commands["pause"] = [](const QString &time) { QTest::qWait(time.toInt()); };

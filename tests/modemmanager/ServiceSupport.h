@@ -57,7 +57,8 @@ private:
 };
 
 /// All that the SDK says: SdkCalls::answers(); the different ones of them as "all"; "status",
-/// "condition" and the keys of what the host alone reads; "events", what was taken.
+/// "condition", the details by group and name, and the keys of what the host alone reads; "events",
+/// what was taken.
 Pairs readSdk();
 
 /// What differs from the expected pairs; empty when nothing does.
@@ -75,7 +76,7 @@ void startEvents();
 using Commands = std::map<QString, std::function<void(const QString &)>>;
 
 /// Takes the steps of a script, each a command of these or the following, and its argument.
-///     attach INDEX | detach | absent | events        starts to take them
+///     attach INDEX | detach | absent | signal-read | events        starts to take them
 ///     expect PAIRS | pause MILLISECONDS
 void perform(const QStringList &steps, Commands commands);
 

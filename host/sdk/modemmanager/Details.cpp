@@ -158,9 +158,12 @@ QString bytes(const QVariant &value)
     return withUnit(plainNumber(value), "bytes");
 }
 
+/// Of a pair, whose second tells whether it is recent. 0 may also stand for no reading.
 QString percentage(const QVariant &value)
 {
-    return withUnit(plainNumber(value.toList().value(0)), "%");
+    int64_t number = 0;
+    const bool isKnown = readNumber(value.toList().value(0), number) && number > 0 && number <= 100;
+    return isKnown ? QString::number(number) + QStringLiteral(" %") : QString();
 }
 
 /// To one decimal place, where there is one.

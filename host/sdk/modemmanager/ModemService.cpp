@@ -176,10 +176,10 @@ bool detach()
         return true;
     state.worker->quit();
     const bool ended = state.worker->wait(patience);
+    Lock lock(state.mutex);
     if (!ended)
         static_cast<void>(state.worker.release()); // it must not be destroyed while it runs
     state.worker.reset();
-    Lock lock(state.mutex);
     ++state.generation;
     state.status = Status::Detached;
     state.watcher = nullptr;

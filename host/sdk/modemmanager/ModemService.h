@@ -13,18 +13,20 @@
 /// Attaches a modem of ModemManager, the system's modem service, to libsdk.
 ///
 /// libsdk reads from the service. It changes one thing: where nobody has set up the reading of the
-/// signal yet, it asks the service to read it every 5 s. The SDK's functions answer from the last
-/// reading. If the service has not confirmed that for 15 s, they give VELT_ERROR_TIMEOUT; without a
-/// modem, a service or a bus VELT_ERROR_NO_DEVICE. The modem's arrival, the end of its
-/// initialisation and its removal are raised as device events.
+/// signal yet, it asks the service to read it every 5 s until detach(). The SDK's functions answer
+/// from the last reading; if that is older than 200 ms, they start another. If the service has not
+/// confirmed it for 15 s, they give VELT_ERROR_TIMEOUT; without a modem, a service or a bus
+/// VELT_ERROR_NO_DEVICE. The modem's arrival, the end of its initialisation and its removal are
+/// raised as device events.
 ///
 /// Any thread may call these functions; a callback of the SDK may not call attach() and detach().
 /// Only isPresent() and waitForSignal() wait for the service.
 namespace ModemService {
 
-/// Attaches the usable modem with this number, 0 for the first, in place of any other modem. If it
-/// goes and comes back, it is attached again, even under another number. Call detach() before the
-/// application object is deleted and before another modem is attached.
+/// Attaches the modem with this number, 0 for the first, in place of any other modem. Modems that
+/// failed for another reason than their SIM come after all others. If it goes and comes back, it is
+/// attached again, even under another number. Call detach() before the application object is
+/// deleted and before another modem is attached.
 SDK_EXPORT void attach(int index = 0);
 
 /// Ends attach(), without any event; does nothing if no modem of the service is attached. Waits for
@@ -85,8 +87,8 @@ struct Detail
 /// last reading no longer counts.
 SDK_EXPORT std::vector<Detail> details();
 
-/// Waits for the first reading with a signal if libsdk asked the service to read it. Returns false
-/// if there is none after \a milliseconds.
+/// Waits for the first reading with a signal if the modem is present and libsdk asked the service
+/// to read its signal. Returns false if there is none after \a milliseconds.
 SDK_EXPORT bool waitForSignal(int milliseconds);
 
 /// Calls \a changed on a thread of libsdk after each change of the status, the modem or its values.

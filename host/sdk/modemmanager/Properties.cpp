@@ -45,10 +45,11 @@ QString text(const QVariantMap &properties, const char *name)
 
 bool readNumber(const QVariant &value, int64_t &number)
 {
-    bool isNumber = false;
-    number = value.toLongLong(&isNumber);
     const int type = value.userType();
-    return isNumber && type != QMetaType::Double && type != QMetaType::QString;
+    bool isNumber = false;
+    if (type != QMetaType::Double && type != QMetaType::QString)
+        number = value.toLongLong(&isNumber);
+    return isNumber;
 }
 
 int64_t number(const QVariantMap &properties, const char *name, int64_t missing)

@@ -385,10 +385,12 @@ QDBusMessage ServiceWatcher::signalSetup(const QString &path, unsigned period) c
 /// changes anything in the service.
 void ServiceWatcher::setUpSignal(const Reading &reading)
 {
-    if (reading.modem("State").toInt() < ModemEnabled)
+    if (reading.signalRate() != 0)
+        return;
+    if (reading.modem("State").toInt() < ModemEnabled) {
         m_signalPath.clear();
-    else if (reading.path != m_signalPath && reading.signalRate() == 0 &&
-             !reading.objects.interfaces.value(signalInterface).isEmpty()) {
+    } else if (reading.path != m_signalPath &&
+               !reading.objects.interfaces.value(signalInterface).isEmpty()) {
         m_signalPath = reading.path;
         m_signalRefused = false;
         auto *call = new QDBusPendingCallWatcher(

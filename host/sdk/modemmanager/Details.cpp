@@ -69,7 +69,7 @@ QString named(const QVariant &value)
     int64_t number = 0;
     if (!readNumber(value, number))
         return QString();
-    const QStringList all = split(names);
+    static const QStringList all = split(names);
     if (number < first || number - first >= all.size())
         return QString::number(number);
     const QString &name = all[static_cast<int>(number - first)];
@@ -84,7 +84,7 @@ QString flagged(const QVariant &value)
         return QString();
     if (number == anyBits)
         return QStringLiteral("any");
-    const QStringList all = split(names);
+    static const QStringList all = split(names);
     QStringList set;
     for (int bit = 0; bit < 32; ++bit) {
         const QString name = all.value(bit, noName);

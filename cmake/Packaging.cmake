@@ -3,7 +3,7 @@
 
 # The Debian package ("package" target or cpack): all that is installed, below /usr.
 
-# install_compressed(folder name): a file of the build tree, without a time inside, so that packages
+# install_compressed(folder name): compresses a file of the build tree without its time, so that packages
 # can be compared.
 function(install_compressed folder name)
     execute_process(COMMAND gzip -9nfk ${CMAKE_BINARY_DIR}/${folder}/${name}
@@ -45,8 +45,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The windows' fixed sizes are made for this font. The toolkit's own packages recommend its texts in
-# other languages and what reads the icon.
+# The windows' fixed sizes are made for this font. Qt's packages recommend those with its translations
+# and with its reader of SVG icons.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-dejavu-core)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS fonts-wqy-microhei) # for Chinese
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS modemmanager)

@@ -11,8 +11,7 @@ if(DIAG_WERROR)
     add_compile_options(-Werror)
 endif()
 
-# A narrowing of characters to text that the toolkit would do silently, in UTF-8, is an error: the
-# device's texts are Latin-1.
+# Qt must not convert char texts silently: it would read UTF-8, but the device's texts are Latin-1.
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_FOREACH)
 
 if(DIAG_SANITIZE)

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 # SPDX-License-Identifier: MIT
 
-# What the commands share. To be sourced from the top folder.
+# Functions of the commands. Source it from the top folder.
 
 # install_packages PACKAGE...: installs what is missing, on Debian and its relatives.
 install_packages() {
@@ -34,7 +34,7 @@ build_packages=(
     libqt5svg5 # for the window's icon
     ninja-build
     qtbase5-dev
-    qttranslations5-l10n # for the toolkit's own dialogs
+    qttranslations5-l10n # for Qt's own dialogs
     qttools5-dev
     qttools5-dev-tools
 )
@@ -44,16 +44,15 @@ packaging_packages=(
     file
 )
 
-# build PRESET [TARGET...]: configures once, then builds what has changed.
+# build PRESET [TARGET...]: configures, since the presets or CI may have changed, and builds what has
+# changed.
 build() {
     local preset=$1
     shift
-    if [ ! -f "build/$preset/build.ninja" ]; then
-        cmake --preset "$preset" >configure.log 2>&1 || {
-            cat configure.log >&2
-            exit 1
-        }
-        rm configure.log
-    fi
+    mkdir -p build
+    cmake --preset "$preset" >build/configure.log 2>&1 || {
+        cat build/configure.log >&2
+        exit 1
+    }
     cmake --build --preset "$preset" ${@:+--target "$@"}
 }

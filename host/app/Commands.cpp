@@ -16,6 +16,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QPixmap>
+#include <QTemporaryFile>
 
 #include <cstdio>
 
@@ -106,10 +107,27 @@ int Commands::show(const ModemSource &modem, const Options &options)
     window.show();
     if (options.open) {
         const int code = showDiagnostics(window, modem, options);
-        if (code != Success || options.print || options.report || !options.screenshot.isNull()) {
+        if (code != Success || options.endsByItself()) {
             window.close();
             return code;
         }
     }
     return QApplication::exec();
+}
+
+int Commands::showUnseen(const ModemSource &modem, Options options)
+{
+    QTemporaryFile picture(QDir::temp().filePath(QStringLiteral("diagnosis-host-XXXXXX.png")));
+    if (!picture.open())
+        return fail(FileNotWritten, QStringLiteral("cannot write a picture to %1: %2")
+                                        .arg(QDir::tempPath(), picture.errorString()));
+    options.open = true;
+    options.print = true;
+    options.screenshot = picture.fileName();
+    const int code = show(modem, options);
+    if (code == Success) {
+        picture.setAutoRemove(false);
+        std::printf("No display: the screenshot is %s\n", qUtf8Printable(picture.fileName()));
+    }
+    return code;
 }

@@ -8,8 +8,8 @@ class ModemSource;
 class QString;
 struct Options;
 
-/// What the program can be asked to do. Each function returns the exit code, and prints why it
-/// failed.
+/// What the program can be asked to do. Each function returns the exit code, and prints the reason
+/// of a failure.
 namespace Commands {
 
 int listModems(const ModemSource &modem);
@@ -17,9 +17,13 @@ int listModems(const ModemSource &modem);
 /// Prints the findings in a configuration.
 int checkConfig(const QString &fileName);
 
-/// Starts the plug-in, opens the windows and does with them what \a options ask for. If that is
-/// nothing that ends by itself, it returns when the user has closed the host's window.
+/// Starts the plug-in, opens the windows and does with them what \a options ask for. Returns when
+/// that is done, or when the user has closed the host's window.
 int show(const ModemSource &modem, const Options &options);
+
+/// The same where nobody can see the windows and \a options would keep them open: prints all values
+/// and writes a picture to a new file in the temporary folder instead.
+int showUnseen(const ModemSource &modem, Options options);
 
 } // namespace Commands
 

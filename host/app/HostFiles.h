@@ -7,8 +7,8 @@
 #include <QCoreApplication>
 #include <QDir>
 
-/// The files and folders of the host, relative to the folder above the program's. They are the same
-/// in the build tree and in an installed one.
+/// The files and folders of the host, relative to the folder above the program's. The build tree is
+/// laid out like an installed one.
 namespace HostFiles {
 
 const char Libraries[] = HOST_LIBRARY_DIR;

@@ -12,12 +12,12 @@
 namespace {
 
 QFile s_file;
-/// Messages come from the threads of the SDK as well.
+/// Threads of libsdk write messages, too.
 QMutex s_mutex;
 
 void write(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
-    // The offscreen platform says so of itself, for every window of a fixed size.
+    // The offscreen platform writes this for each window of a fixed size.
     if (message == QLatin1String("This plugin does not support propagateSizeHints()"))
         return;
     const QByteArray line = message.toLocal8Bit() + '\n';
@@ -39,7 +39,7 @@ void Log::install()
 
 bool Log::open(const QString &fileName)
 {
-    // Unbuffered, so that the last line before a crash is there.
+    // Unbuffered, so that the last line before a crash is not lost.
     if (fileName == QLatin1String("-")) {
         if (!s_file.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered))
             return false;

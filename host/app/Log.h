@@ -6,14 +6,14 @@
 
 class QString;
 
-/// Where the messages of the host and its plug-ins go: warnings and errors to standard error, and
-/// everything, debug lines too, to the log, if there is one.
+/// Writes the messages of the host and its plug-ins: warnings and errors to standard error, and all
+/// messages, debug lines included, to the log if one is open.
 namespace Log {
 
-/// Takes over all messages, without a log.
+/// Takes over the messages. No log is open yet.
 void install();
 
-/// Opens the log; "-" stands for standard error. False when the file cannot be written.
+/// Opens the log. "-" stands for standard error. Returns false if the file cannot be written.
 bool open(const QString &fileName);
 
 } // namespace Log

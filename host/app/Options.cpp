@@ -24,7 +24,7 @@ const char Description[] = "Host of the diagnostics plug-in, on a simulated or a
                            "  7  the configuration has faults, which are listed\n"
                            "  8  the configuration or its schema could not be read";
 
-struct Known
+struct KnownOption
 {
     const char *name;
     const char *value; ///< empty for an option without one
@@ -32,7 +32,7 @@ struct Known
 };
 
 // clang-format off
-const Known KnownOptions[] = {
+const KnownOption KnownOptions[] = {
     {"modem", "name",
      "Attach this modem: a simulated one, \"modemmanager\" for the first modem of the system's service, "
      "\"modemmanager:1\" for the second, or \"auto\" (the default) for the service's where there is one "
@@ -45,11 +45,11 @@ const Known KnownOptions[] = {
     {"screenshot", "file", "Open it, write its picture to a file, and exit."},
     {"report", "",
      "Write all captions and values, below a head (date, versions, modem), to the given file or to standard "
-     "output, and exit. No window is seen."},
+     "output, and exit. No window is shown."},
     {"format", "name", "Write the report as \"text\" (the default) or as \"json\"."},
     {"mask", "", "Hide identifiers, location and addresses in the report, so that it can be published."},
     {"check-config", "file",
-     "Say what is wrong in a DiagnosisConfig.xml and what the plug-in passes over in silence, and exit."},
+     "List the faults in a DiagnosisConfig.xml, also those that the plug-in ignores, and exit."},
     {"log", "file", "Write the plug-in's log to a file; \"-\" stands for standard error."},
 };
 // clang-format on
@@ -69,7 +69,7 @@ bool Options::parse(const QStringList &arguments, QString *error)
     error->clear();
     QCommandLineParser parser;
     parser.setApplicationDescription(QLatin1String(Description));
-    for (const Known &option : KnownOptions)
+    for (const KnownOption &option : KnownOptions)
         parser.addOption({QLatin1String(option.name), QLatin1String(option.description),
                           QLatin1String(option.value)});
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},

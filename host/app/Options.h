@@ -7,15 +7,19 @@
 #include <QString>
 #include <QStringList>
 
-/// What the command line asks for. Texts that it does not give are null.
+/// The options of the command line. Texts that were not given are null.
 struct Options
 {
-    /// Reads the arguments; false, with the reason in *\a error, when they are wrong. Ends the
-    /// program when they ask for help or the version.
+    /// Reads the arguments. Returns false, with the reason in *\a error, if they are wrong. Ends
+    /// the program if they ask for help or the version.
     bool parse(const QStringList &arguments, QString *error);
 
-    /// Whether the arguments ask for what shows no window: decided before there is an application.
+    /// Whether the arguments ask for something that shows no window. Can be called before the
+    /// application object is made.
     static bool needNoScreen(int count, const char *const *arguments);
+
+    /// Whether the program ends without its user closing a window.
+    bool endsByItself() const { return print || report || !screenshot.isNull(); }
 
     QString modem;
     QString language;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "Commands.h"
+#include "Display.h"
 #include "ExitCode.h"
 #include "HostCore.h"
 #include "HostFiles.h"
@@ -15,25 +16,9 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace {
-
-/// Sets what Qt reads from the environment when the application object is made.
-void setEnvironment(int argc, const char *const *argv)
-{
-    // Nothing here draws with OpenGL; loading its drivers would only slow the start.
-    if (!qEnvironmentVariableIsSet("QT_XCB_GL_INTEGRATION"))
-        qputenv("QT_XCB_GL_INTEGRATION", "none");
-    if (Options::needNoScreen(argc, argv) ||
-        (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
-         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-}
-
-} // namespace
-
 int main(int argc, char *argv[])
 {
-    setEnvironment(argc, argv);
+    Display::choose(Options::needNoScreen(argc, argv));
     Log::install();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
@@ -65,7 +50,9 @@ int main(int argc, char *argv[])
     HostCore::applyLook(application);
     if (!modem.attach(options.modem, &error))
         return fail(WrongUsage, error);
-    const int code = Commands::show(modem, options);
+    const int code = Display::isMissing() && !options.endsByItself()
+                         ? Commands::showUnseen(modem, options)
+                         : Commands::show(modem, options);
     if (!modem.detach()) {
         std::fflush(nullptr);
         std::_Exit(code);

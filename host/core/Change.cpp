@@ -16,7 +16,7 @@ namespace {
 struct Language
 {
     QTranslator host;
-    QTranslator toolkit;
+    QTranslator qt;
 };
 
 std::unique_ptr<Language> s_language;
@@ -34,7 +34,7 @@ const QTranslator &english()
 
 QString Change::tr(const QString &key, const QString &context)
 {
-    // Not through the application: it gives an unknown key back as its own text.
+    // QCoreApplication::translate() would return an unknown key as its own text.
     const QByteArray source = key.toUtf8();
     const QByteArray where = context.toUtf8();
     const QString text =
@@ -50,9 +50,8 @@ bool HostCore::setLanguage(const QString &folder, const QString &language)
     if (!loaded->host.load(QStringLiteral("%1/host_%2.qm").arg(folder, language)))
         return false;
     QCoreApplication::installTranslator(&loaded->host);
-    if (loaded->toolkit.load(QStringLiteral("qtbase_%1").arg(language),
-                             QStringLiteral(TOOLKIT_TRANSLATIONS)))
-        QCoreApplication::installTranslator(&loaded->toolkit);
+    if (loaded->qt.load(QStringLiteral("qtbase_%1").arg(language), QStringLiteral(QT_TRANSLATIONS)))
+        QCoreApplication::installTranslator(&loaded->qt);
     s_language = std::move(loaded);
     return true;
 }

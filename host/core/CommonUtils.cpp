@@ -19,14 +19,14 @@ namespace {
 QString s_pluginLibraryPath;
 QString s_settingsFile;
 
-/// A message box that can always be closed, and where closing it presses no button.
+/// A message box that can always be closed. Closing it presses no button.
 class MessageBox : public QMessageBox
 {
 public:
     using QMessageBox::QMessageBox;
 
 protected:
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call): past the one that presses a button
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call): QMessageBox's presses a button
     void closeEvent(QCloseEvent *event) override { QDialog::closeEvent(event); }
 
     void keyPressEvent(QKeyEvent *event) override
@@ -65,7 +65,7 @@ QString CommonUtils::GetSettings(const QString &group, const QString &key)
     if (s_settingsFile.isNull())
         return QString();
     const QSettings settings(s_settingsFile, QSettings::IniFormat);
-    // A text with commas is read as a list.
+    // QSettings returns a text with commas as a list.
     return settings.value(group + QLatin1Char('/') + key).toStringList().join(QLatin1String(", "));
 }
 
@@ -90,7 +90,7 @@ int CommonUtils::ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString ca
     QEventLoop loop;
     QObject::connect(messageBox, &QDialog::finished, &loop, &QEventLoop::quit);
     QObject::connect(messageBox, &QObject::destroyed, &loop, [&loop, box] {
-        // Here and not after the loop: *box may belong to the parent, and be gone with it.
+        // Not after the loop: *box may be a member of the parent, which may be deleted by then.
         if (box)
             *box = nullptr;
         loop.quit();
@@ -117,7 +117,7 @@ void CommonUtils::MoveCentre(QDialog *dialog)
     const QRect screen = (parent ? parent : dialog)->screen()->availableGeometry();
     QRect frame = dialog->frameGeometry();
     frame.moveCenter(parent ? parent->frameGeometry().center() : screen.center());
-    // The upper left corner wins where the dialog is larger than the screen.
+    // If the dialog is larger than the screen, its upper left corner is visible.
     frame.moveLeft(qMax(screen.left(), qMin(frame.left(), screen.right() + 1 - frame.width())));
     frame.moveTop(qMax(screen.top(), qMin(frame.top(), screen.bottom() + 1 - frame.height())));
     dialog->move(frame.topLeft());
@@ -127,6 +127,6 @@ void CommonUtils::GetApplicationStringHeightAndWidth(const QString &text, int &h
 {
     const QFontMetrics metrics(QApplication::font());
     height = metrics.horizontalAdvance(text);
-    // Letters that the font lacks come from one that may be higher.
+    // Letters that the font lacks are drawn in another font, which may be higher.
     width = metrics.size(Qt::TextSingleLine, text).height();
 }

@@ -23,7 +23,7 @@ void ExtendDialog::AddMainWidget(QWidget *widget)
 {
     if (!widget || m_layout->indexOf(widget) >= 0)
         return;
-    // The layout no longer knows a content that others have deleted meanwhile.
+    // If others have deleted the content, it is no longer in the layout.
     if (m_content && m_layout->indexOf(m_content) >= 0)
         delete m_content;
     m_content = widget;
@@ -48,7 +48,7 @@ void ExtendDialog::done(int result)
         end();
 }
 
-// A visible dialog comes to done() from here; one that was never shown does not.
+// QDialog::closeEvent() calls done() only if the dialog is visible.
 void ExtendDialog::closeEvent(QCloseEvent *event)
 {
     const QPointer<ExtendDialog> alive(this);
@@ -57,7 +57,7 @@ void ExtendDialog::closeEvent(QCloseEvent *event)
         end();
 }
 
-// Nothing may follow the signal: a slot may have deleted the dialog.
+// No member may be used after the signal: a slot may have deleted the dialog.
 void ExtendDialog::end()
 {
     if (m_ended)

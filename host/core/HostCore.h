@@ -15,46 +15,43 @@
 
 class QApplication;
 
-/// The host's side of libcore: what plug-ins read through include/core is set here.
-/// All of it is used on the GUI thread.
+/// The host's side of libcore: the host sets here what plug-ins read through include/core. All
+/// functions must be called on the GUI thread.
 namespace HostCore {
 
-/// What CommonUtils::GetPluginLibraryPath() gives.
+/// Sets what CommonUtils::GetPluginLibraryPath() returns.
 CORE_EXPORT void setPluginLibraryPath(const QString &path);
 
-/// The INI file that CommonUtils::GetSettings() reads. A null name stands for no settings.
+/// Sets the INI file that CommonUtils::GetSettings() reads. With a null name there are no settings.
 CORE_EXPORT void setSettingsFile(const QString &fileName);
 
-/// Chooses the language of Change::tr() and of the toolkit's own texts from the files
-/// "host_<language>.qm" in \a folder. English stands in for what the language lacks. False when the
-/// folder has no file for the language, and then nothing changes.
+/// Sets the language of Change::tr() and of Qt's own texts. \a folder has the files
+/// "host_<language>.qm". Texts that the language lacks are English. Returns false, and changes
+/// nothing, if there is no file for the language.
 CORE_EXPORT bool setLanguage(const QString &folder, const QString &language);
 
-/// The languages that \a folder has files for, sorted.
+/// The languages of the files in \a folder, sorted.
 CORE_EXPORT QStringList languages(const QString &folder);
 
 /// The language of the system if \a folder has a file for it, else English.
 CORE_EXPORT QString systemLanguage(const QString &folder);
 
-/// The text of the diagnostics plug-in for a resource key.
+/// The diagnostics plug-in's text for a resource key.
 CORE_EXPORT QString pluginText(const QString &key);
 
-/// What Startup::GetPluginContainer() gives; null for none. Not owned.
+/// Sets what Startup::GetPluginContainer() returns. May be null. Not owned.
 CORE_EXPORT void setPluginContainer(PluginContainer *container);
 
-/// Gives the application the host's font, style and spacing, in which a page of the diagnostics
-/// window with 15 rows fits its fixed size.
+/// Sets the host's font, style and spacing. With them a page of 15 rows fits the fixed size of the
+/// diagnostics window.
 CORE_EXPORT void applyLook(QApplication &application);
 
-/// The host's container. Plug-ins that are deleted leave it by themselves.
+/// The host's container. It forgets a plug-in that is deleted.
 class CORE_EXPORT PluginRegister : public PluginContainer
 {
 public:
-    /// Registers a plug-in, not owned. A later one with the same identifier and type wins.
+    /// Adds a plug-in, which is not owned. It hides earlier ones of the same identifier and type.
     void add(const QString &classIdentifier, int pluginType, QObject *plugin);
-
-    /// Takes a plug-in out.
-    void remove(QObject *plugin);
 
     QObject *GetPlugin(const QString &classIdentifier, int pluginType) override;
 

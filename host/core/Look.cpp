@@ -9,7 +9,7 @@
 
 namespace {
 
-/// Fusion with the margins and spacings that plug-in windows of a fixed size are made for.
+/// Fusion, with the margins and spacings that the plug-in's windows of a fixed size need.
 class HostStyle : public QProxyStyle
 {
 public:
@@ -38,11 +38,11 @@ public:
 void HostCore::applyLook(QApplication &application)
 {
     const QString family = QStringLiteral("DejaVu Sans");
-    // It has no Chinese; the lines of this one are no higher.
+    // DejaVu has no Chinese letters. Those of this font are no higher.
     QFont::insertSubstitution(family, QStringLiteral("WenQuanYi Micro Hei"));
     QFont font(family);
     font.setStyleHint(QFont::SansSerif);
-    // In pixels, as the windows' fixed sizes are.
+    // In pixels, because the windows have fixed sizes in pixels.
     font.setPixelSize(12);
     application.setFont(font);
     application.setStyle(new HostStyle);

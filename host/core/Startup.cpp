@@ -25,14 +25,6 @@ void HostCore::PluginRegister::add(const QString &classIdentifier, int pluginTyp
     m_entries.prepend({classIdentifier, pluginType, plugin});
 }
 
-void HostCore::PluginRegister::remove(QObject *plugin)
-{
-    for (int index = m_entries.size() - 1; index >= 0; --index) {
-        if (m_entries.at(index).plugin == plugin)
-            m_entries.removeAt(index);
-    }
-}
-
 QObject *HostCore::PluginRegister::GetPlugin(const QString &classIdentifier, int pluginType)
 {
     for (const Entry &entry : qAsConst(m_entries)) {

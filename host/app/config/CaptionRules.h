@@ -7,27 +7,26 @@
 #include <QList>
 #include <QString>
 
-/// The rules that the captions of the tabs and the wordings of the SIM tab keep together. The
-/// window finds a tab by the first caption that contains a text. Places are offsets in the
-/// document.
+/// The rules about the captions of the tabs and the wordings for the SIM tab. The window finds a
+/// tab by the first caption that contains a text.
 class CaptionRules
 {
 public:
     struct Text
     {
-        int offset;
+        int offset; ///< in the document
         QString text;
     };
 
     /// Adds a tab that is shown. Its caption is the text of the key in the host's language.
     void addTab(const QString &resourceKey, int offset);
 
-    /// Adds the content of a <simmsgprompt>. \a common tells whether it stands in <common>.
+    /// Adds the content of a <simmsgprompt>. \a common is true if it is in <common>.
     void addWording(const QString &wording, int offset, bool common);
 
     bool hasWording() const { return !m_wordings.isEmpty(); }
 
-    /// What breaks the rules. \a root is the place of what concerns the whole document.
+    /// What breaks the rules. Findings about the whole document get the offset \a root.
     QList<Text> findings(int root) const;
 
 private:

@@ -29,11 +29,11 @@ typedef xmlErrorPtr ErrorPointer;
 template <typename Object>
 using Owner = std::unique_ptr<Object, void (*)(Object *)>;
 
-/// Nobody writes such a configuration by hand.
-const qint64 LargestFile = 1 << 18; // bytes
+/// Far more than a configuration needs, in bytes.
+const qint64 LargestFile = 1 << 18;
 
-/// What becomes of something that the schema refuses, by the place of the element or attribute, or
-/// by the constraint.
+/// What the plug-in does with something that breaks the schema. The place is that of the element or
+/// attribute, or the name of the constraint.
 struct Consequence
 {
     const char *place;
@@ -74,16 +74,16 @@ QString text(const xmlChar *characters)
     return QString::fromUtf8(reinterpret_cast<const char *>(characters));
 }
 
-/// The check of a document. The parser calls it for each element, and then the validator that is
-/// plugged in behind it, whose errors therefore concern the current element.
-class Check
+/// The check of a document. For each element the parser calls this class first and then the
+/// validator. So the validator's errors concern the current element.
+class DocumentCheck
 {
 public:
-    Check(const QByteArray &document, const QMap<QString, QStringList> &rowsOfTabs)
+    DocumentCheck(const QByteArray &document, const QMap<QString, QStringList> &rowsOfTabs)
         : m_document(document), m_rowsOfTabs(rowsOfTabs)
     {
     }
-    Q_DISABLE_COPY(Check)
+    Q_DISABLE_COPY(DocumentCheck)
 
     void run(xmlSchemaPtr schema);
     QStringList findings() const;
@@ -100,7 +100,7 @@ private:
         QHash<QString, int> offsets; ///< of the attributes
     };
 
-    static Check *from(void *self) { return static_cast<Check *>(self); }
+    static DocumentCheck *from(void *self) { return static_cast<DocumentCheck *>(self); }
     static void onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *);
     static void onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
                         const xmlChar **, int count, int, const xmlChar **attributes);
@@ -126,7 +126,7 @@ private:
     QSet<Position> m_explained; ///< where the validator has nothing to add
 };
 
-void Check::run(xmlSchemaPtr schema)
+void DocumentCheck::run(xmlSchemaPtr schema)
 {
     const Owner<xmlSchemaValidCtxt> validator(xmlSchemaNewValidCtxt(schema),
                                               xmlSchemaFreeValidCtxt);
@@ -150,8 +150,8 @@ void Check::run(xmlSchemaPtr schema)
     xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
 
-/// A validator is for a document that is well-formed: it leaks what is still open.
-void Check::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
+/// The validator must only get a well-formed document: it leaks elements that are not closed.
+void DocumentCheck::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
 {
     const Owner<xmlParserCtxt> parser(
         xmlCreateMemoryParserCtxt(m_document.constData(), m_document.size()), xmlFreeParserCtxt);
@@ -159,7 +159,7 @@ void Check::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
     const xmlSAXHandlerPtr ownHandler = m_parser->sax;
     m_parser->sax = &handler;
     m_parser->userData = this;
-    m_parser->replaceEntities = 1; // "&amp;" and its like: a document type was refused before
+    m_parser->replaceEntities = 1; // such as "&amp;"; a document type was refused before
     const xmlSchemaSAXPlugPtr plug =
         validator ? xmlSchemaSAXPlug(validator, &m_parser->sax, &m_parser->userData) : nullptr;
     xmlParseDocument(m_parser);
@@ -167,7 +167,7 @@ void Check::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator)
     m_parser->sax = ownHandler;
 }
 
-QStringList Check::findings() const
+QStringList DocumentCheck::findings() const
 {
     QStringList lines;
     for (auto finding = m_findings.cbegin(); finding != m_findings.cend(); ++finding)
@@ -177,23 +177,23 @@ QStringList Check::findings() const
     return lines;
 }
 
-Check::Position Check::position(int offset) const
+DocumentCheck::Position DocumentCheck::position(int offset) const
 {
     const QByteArray before = m_document.left(offset);
     const int start = before.lastIndexOf('\n') + 1;
     return {before.count('\n') + 1, QString::fromUtf8(before.mid(start)).size() + 1};
 }
 
-void Check::add(int offset, const QString &text)
+void DocumentCheck::add(int offset, const QString &text)
 {
     m_findings.insert(position(offset), text);
     m_explained.insert(position(offset));
 }
 
-// Its entities could stand for anything, at any length.
-void Check::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
+// A document type may define entities of any content and length.
+void DocumentCheck::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     const int end = int(xmlByteConsumed(check->m_parser));
     check->add(check->m_document.lastIndexOf('<', end - 1),
                QStringLiteral("A document type declaration has no use here. Nothing behind it was "
@@ -201,11 +201,11 @@ void Check::onDoctype(void *self, const xmlChar *, const xmlChar *, const xmlCha
     xmlStopParser(check->m_parser);
 }
 
-void Check::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
-                    const xmlChar **, int count, int, const xmlChar **attributes)
+void DocumentCheck::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlChar *, int,
+                            const xmlChar **, int count, int, const xmlChar **attributes)
 {
-    Check *const check = from(self);
-    // The parser stands behind the attributes, which can hold no '<'.
+    DocumentCheck *const check = from(self);
+    // The parser has read the attributes, and these cannot contain '<'.
     const int end = int(xmlByteConsumed(check->m_parser));
     Element element;
     element.parent = check->m_open.isEmpty() ? QString() : check->m_open.last().name;
@@ -219,7 +219,7 @@ void Check::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlC
     }
     static const QRegularExpression written(
         QStringLiteral("([^\\s=\"']+)\\s*=\\s*(\"[^\"]*\"|'[^']*')"));
-    // One character a byte, whatever the encoding.
+    // One character for each byte, whatever the encoding, so that offsets fit.
     auto match = written.globalMatch(
         QString::fromLatin1(check->m_document.mid(element.offset, end - element.offset)));
     while (match.hasNext()) {
@@ -232,35 +232,35 @@ void Check::onStart(void *self, const xmlChar *name, const xmlChar *, const xmlC
     check->m_open.append(element);
 }
 
-void Check::onText(void *self, const xmlChar *characters, int length)
+void DocumentCheck::onText(void *self, const xmlChar *characters, int length)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     check->m_current = check->m_open.last();
     check->m_text += QString::fromUtf8(reinterpret_cast<const char *>(characters), length);
 }
 
-void Check::onEnd(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
+void DocumentCheck::onEnd(void *self, const xmlChar *, const xmlChar *, const xmlChar *)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     check->m_current = check->m_open.takeLast();
     if (check->m_current.name == QLatin1String("simmsgprompt"))
         check->m_captions.addWording(check->m_text, check->m_current.offset,
                                      check->m_current.parent == QLatin1String("common"));
 }
 
-void Check::onSyntaxError(void *self, ErrorPointer error)
+void DocumentCheck::onSyntaxError(void *self, ErrorPointer error)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     if (!check->m_findings.isEmpty())
-        return; // it follows from that one
+        return; // a consequence of the first error
     check->m_findings.insert({error->line, error->int2},
                              QString::fromUtf8(error->message).trimmed() +
                                  QStringLiteral(". The plug-in reads nothing behind it."));
 }
 
-void Check::onSchemaError(void *self, ErrorPointer error)
+void DocumentCheck::onSchemaError(void *self, ErrorPointer error)
 {
-    Check *const check = from(self);
+    DocumentCheck *const check = from(self);
     const Element &element = check->m_current;
     QString message = QString::fromUtf8(error->message).trimmed();
     static const QRegularExpression attributePart(
@@ -271,7 +271,7 @@ void Check::onSchemaError(void *self, ErrorPointer error)
     const QString attribute = attributePart.match(message).captured(1);
     const QString constraint = constraintPart.match(message).captured(1);
     const Position position = check->position(element.offsets.value(attribute, element.offset));
-    // A wrong attribute comes twice: once more as one that no constraint can compare.
+    // A wrong attribute is reported twice: the second error says that constraints ignore it.
     if ((error->code == XML_SCHEMAV_CVC_IDC && constraint.isEmpty()) ||
         check->m_explained.contains(position))
         return;
@@ -280,12 +280,12 @@ void Check::onSchemaError(void *self, ErrorPointer error)
         place += QLatin1Char('@') + attribute;
     message.remove(facetPart);
     message += consequence(constraint.isEmpty() ? place : constraint);
-    if (!check->m_findings.contains(position, message)) // text may come in pieces
+    if (!check->m_findings.contains(position, message)) // a text in pieces has one error for each
         check->m_findings.insert(position, message);
 }
 
-/// What the schema cannot say of the current element.
-void Check::checkStart()
+/// Checks rules about the current element that the schema cannot express.
+void DocumentCheck::checkStart()
 {
     const auto attribute = [this](const char *name) {
         return m_current.attributes.value(QLatin1String(name));
@@ -320,7 +320,7 @@ void Check::checkStart()
     }
 }
 
-/// Nothing is loaded but what is handed over: no file, and nothing from the network.
+/// Keeps the parser from loading other files, or anything from the network.
 xmlParserInputPtr loadNothing(const char *, const char *, xmlParserCtxtPtr)
 {
     return nullptr;
@@ -350,7 +350,7 @@ bool ConfigCheck::run(const QString &fileName, const QString &schemaFile, QStrin
     QByteArray schemaText;
     if (!readFile(fileName, &document, error) || !readFile(schemaFile, &schemaText, error))
         return false;
-    if (document.isEmpty()) { // which the parser does not take
+    if (document.isEmpty()) { // the parser does not accept it
         findings->append(QStringLiteral("1:1: The file is empty."));
         return true;
     }
@@ -363,7 +363,7 @@ bool ConfigCheck::run(const QString &fileName, const QString &schemaFile, QStrin
         *error = QStringLiteral("the schema %1 is broken").arg(schemaFile);
         return false;
     }
-    Check check(document, ConfigSchema::rowsOfTabs(schemaText));
+    DocumentCheck check(document, ConfigSchema::rowsOfTabs(schemaText));
     check.run(schema.get());
     *findings = check.findings();
     return true;

@@ -9,9 +9,10 @@
 
 namespace ConfigCheck {
 
-/// Checks a configuration of the plug-in against its schema and for what a schema cannot say.
-/// *\a findings gets "line:column: sentences" for each fault, by position; captions are compared
-/// in the host's language. False, with the reason in *\a error, when a file cannot be read.
+/// Checks a configuration of the plug-in against its schema and against rules that a schema cannot
+/// express. Adds "line:column: sentences" to *\a findings for each fault, sorted by position.
+/// Captions are compared in the host's language. Returns false, with the reason in *\a error, if a
+/// file cannot be read.
 bool run(const QString &fileName, const QString &schemaFile, QStringList *findings, QString *error);
 
 } // namespace ConfigCheck

@@ -9,7 +9,7 @@
 
 namespace ConfigSchema {
 
-/// The rows that each tab has values for, as the content of DiagnosisConfig.xsd lists them.
+/// The rows that have values, for each tab. \a schema is the content of DiagnosisConfig.xsd.
 QMap<QString, QStringList> rowsOfTabs(const QByteArray &schema);
 
 } // namespace ConfigSchema

@@ -9,8 +9,8 @@
 #include "interfaces/INetConnectSetting.h"
 #include "interfaces/IStatusBarUI.h"
 
-/// The host's own plug-ins. They answer from the attached modem, and fail while it is away or
-/// has no such value.
+/// The host's own plug-ins. They return values of the attached modem. They fail if it is unplugged
+/// or does not have the value.
 
 class StatusBar : public QObject, public IStatusBarUI
 {
@@ -31,7 +31,7 @@ public:
     int IGetProfileName(QString &name) override;
 };
 
-/// Knows one profile: the modem's.
+/// Has one profile: the modem's.
 class ConnectionSettings : public QObject, public INetConnectSetting
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
     int IGetProfileSettings(QString profileName, NetProfileSettings *settings) override;
 };
 
-/// All of them. While it lives, plug-ins find them through the container.
+/// All three. Other plug-ins find them in the container until this object is deleted.
 class HostPlugins
 {
 public:

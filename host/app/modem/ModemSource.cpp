@@ -16,7 +16,7 @@ const QString serviceName = QStringLiteral("modemmanager");
 const QString automatic = QStringLiteral("auto");
 const QString simulatedDefault = QStringLiteral("wcdma");
 
-/// How long the start may wait for the service's first answer.
+/// How long the program waits for the service's first answer at the start.
 const int firstAnswer = 1000; // ms
 
 } // namespace

@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The modem that the user chose, attached to the SDK while this lives. It must go before the
-/// application object.
+/// The modem that the user chose. It is detached from libsdk when this object is deleted, which
+/// must be before the application object is.
 class ModemSource
 {
 public:
@@ -18,24 +18,25 @@ public:
     ModemSource(const ModemSource &) = delete;
     ModemSource &operator=(const ModemSource &) = delete;
 
-    /// The names that attach() takes: those of the simulated modems, "modemmanager" (the first
-    /// modem of the system's service; "modemmanager:1" is the second), and "auto" (the service's
-    /// modem, or a simulated one where it has none).
+    /// The names that attach() accepts: those of the simulated modems, "modemmanager" for the first
+    /// modem of the system's service ("modemmanager:1" for the second), and "auto" for the
+    /// service's modem or, if it has none, a simulated one.
     QStringList names() const;
 
-    /// Attaches a modem; false, with the reason in *\a error, when the name or its file is wrong.
+    /// Attaches a modem to libsdk. Returns false, with the reason in *\a error, if the name or the
+    /// modem's file is wrong.
     bool attach(const QString &name, QString *error);
 
-    /// Takes the modem away. False when the system's message bus hangs, so that the program must
-    /// leave without the toolkit's end.
+    /// Detaches the modem. Returns false if the system's message bus hangs. Then the program must
+    /// end without destructors, because Qt's would wait for the bus.
     bool detach();
 
     bool isSimulated() const { return m_simulated; }
-    /// Which modem it is, to be shown to the user.
+    /// The name that the user sees.
     QString name() const { return m_name; }
     QString description() const;
 
-    /// What is missing or does not answer, in a sentence; empty while all is well.
+    /// A sentence about what is missing or does not answer. Empty if there is no problem.
     QString problem() const;
 
 private:

@@ -32,7 +32,7 @@ QFrame *boxOf(const QWidget *window)
                   : nullptr;
 }
 
-/// The configured name of a tab; null for a page that is none.
+/// The configured name of a tab. Null if the page is not one of the plug-in's tabs.
 QString tabName(const QWidget *page)
 {
     const QString name = page->objectName();
@@ -78,7 +78,7 @@ DiagnosticsReader::DiagnosticsReader()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
-        // The host's own window has the diagnostics window among its children too.
+        // The host's own window is an ancestor of the same widgets.
         if (qobject_cast<QDialog *>(window) && window->isVisible() &&
             (tabsOf(window) || boxOf(window)))
             m_window = window;

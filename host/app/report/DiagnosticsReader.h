@@ -12,7 +12,7 @@
 
 struct ShownRow
 {
-    QString name; ///< the configured name; in the window of CDMA devices the resource key
+    QString name; ///< the configured name, or the resource key in the window of CDMA devices
     QString caption;
     QString value;
 
@@ -22,34 +22,34 @@ struct ShownRow
 
 struct ShownPage
 {
-    QString name; ///< the configured name; null for the window of CDMA devices
+    QString name; ///< the configured name. Null for the window of CDMA devices
     QString title;
     QList<ShownRow> rows;
 };
 
-/// Reads the open diagnostics window, which the host knows by the names of its objects only.
+/// Reads the open diagnostics window. It finds the widgets by their object names.
 class DiagnosticsReader
 {
 public:
-    /// Takes the visible diagnostics window.
+    /// Reads the visible diagnostics window.
     DiagnosticsReader();
 
-    /// Takes this window, or the one below it.
+    /// Reads \a window, or the diagnostics window among its children.
     explicit DiagnosticsReader(QWidget *window);
 
-    /// The window; null when none is open, or no longer.
+    /// Null if no window was open, or if it has been deleted since.
     QWidget *window() const { return m_window; }
 
-    /// The configured names of the tabs, in their order; none for the window of CDMA devices.
+    /// The configured names of the tabs, in their order. Empty for the window of CDMA devices.
     QStringList tabNames() const;
 
-    /// Shows the tab with this configured name; false when there is none.
+    /// Shows the tab with a configured name. Returns false if there is none.
     bool selectTab(const QString &name) const;
 
-    /// All pages as they are; a tab that was never visited has no values.
+    /// All pages as they are. A tab that was never shown has no values.
     QList<ShownPage> pages() const;
 
-    /// All pages. Each tab is visited, which fills it, and the one shown now is shown again.
+    /// All pages, with values: shows each tab once, and then again the one that is shown now.
     QList<ShownPage> read() const;
 
 private:

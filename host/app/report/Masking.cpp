@@ -5,7 +5,7 @@
 
 namespace {
 
-/// How much of a row's value stays readable. docs/report.md has the reasons.
+/// How many characters of a row's value stay readable. docs/report.md has the reasons.
 struct Mask
 {
     const char *row;
@@ -31,12 +31,12 @@ const Mask Masks[] = {
 
 const char *const AddressRows[] = {"IP address", "DNS server"};
 
-/// A value that would hide fewer characters is hidden altogether: the rest could be guessed.
+/// If fewer characters would be hidden, all are: so few could be guessed.
 const int FewestHidden = 6;
 
 const QChar Hidden = QLatin1Char('*');
 
-/// Leaves the separators and the first group of each address, which tells what kind it is.
+/// Keeps the separators and the first group of each address. They tell the kind of address.
 QString maskedAddresses(QString value)
 {
     const QString separators = QStringLiteral(".:");

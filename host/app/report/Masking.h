@@ -6,8 +6,8 @@
 
 #include "report/DiagnosticsReader.h"
 
-/// A row's value with '*' for each character that must not be public, chosen by the row's
-/// configured name. The unknown text and the values of other rows stay.
+/// The row's value, with '*' in place of each character that must not be public. The row's name
+/// decides. The unknown text is not masked.
 QString maskedValue(const ShownRow &row);
 
 #endif

@@ -19,7 +19,8 @@
 
 namespace {
 
-/// A line of a value from the air must not look like a row, nor reach a terminal as a command.
+/// A value may come from the network: its control characters must not start a new line, nor act as
+/// commands of a terminal.
 QString printable(QString value)
 {
     for (QChar &character : value) {
@@ -117,11 +118,11 @@ bool Report::write(const QByteArray &content, const QString &fileName, QString *
     const QFileInfo target(fileName);
     const bool isDevice = target.exists() && !target.isFile() && !target.isDir();
     QSaveFile saved(fileName);
-    QFile direct(fileName); // a saved file would take the place of a device
+    QFile direct(fileName); // QSaveFile would replace a device by a file
     QFileDevice &file = toOutput || isDevice ? static_cast<QFileDevice &>(direct) : saved;
     const bool isOpen =
         toOutput ? direct.open(stdout, QIODevice::WriteOnly) : file.open(QIODevice::WriteOnly);
-    // The toolkit's commit() does not see that the last bytes found no room.
+    // QSaveFile::commit() does not notice that the disk is too full for the last bytes.
     if (isOpen && file.write(content) == content.size() && file.flush() &&
         (&file != &saved || saved.commit()))
         return true;

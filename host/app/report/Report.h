@@ -8,8 +8,8 @@
 
 #include <QPair>
 
-/// What the diagnostics window shows, as text and as JSON, below a head with the facts that a
-/// reader elsewhere needs.
+/// The captions and values of the diagnostics window, as text or as JSON. The head says when, where
+/// and with which versions they were read.
 class Report
 {
 public:
@@ -30,16 +30,16 @@ public:
 
     Report(const QList<ShownPage> &pages, const Source &source, Identifiers identifiers);
 
-    /// A line for each title, one for each row, and an empty line between pages.
+    /// The pages as text: a line for each title and each row, an empty line between pages.
     static QString rows(const QList<ShownPage> &pages);
 
-    /// The head, and all pages.
+    /// The head and the pages.
     QString text() const;
 
     QByteArray json() const;
 
     /// Writes to a file, or to standard output if its name is null or "-". Returns false, with the
-    /// reason in *\a error, if not all could be written; then an earlier file is still there.
+    /// reason in *\a error, if not all could be written. An earlier file then stays as it was.
     static bool write(const QByteArray &content, const QString &fileName, QString *error);
 
 private:

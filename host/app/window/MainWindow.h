@@ -8,16 +8,17 @@
 
 class PluginLoader;
 
-/// The host's window: the way to the diagnostics. The modem's window comes and goes with it.
+/// The host's window. Its button opens the diagnostics window. The modem's window is shown and
+/// closed with it.
 class MainWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// \a plugin must be started; it and \a modem must outlive the window.
+    /// \a plugin must be started. \a modem and \a plugin must outlive the window.
     MainWindow(const ModemSource &modem, const PluginLoader &plugin);
 
-    /// Opens the diagnostics window. False when it could not be opened, which the window then says.
+    /// Opens the diagnostics window. Returns false, and shows a message, if that fails.
     bool openDiagnostics();
 
 protected:

@@ -46,7 +46,7 @@ ModemWindow::ModemWindow(const ModemSource &modem)
     connect(m_plugIn, &QPushButton::clicked, this, &ModemWindow::plug);
     connect(m_unplug, &QPushButton::clicked, this, &ModemWindow::unplug);
     if (!modem.isSimulated()) {
-        // A real modem comes and goes by itself.
+        // The program cannot plug in a real modem, so it looks whether the user has.
         m_plugIn->hide();
         m_unplug->hide();
         auto *const look = new QTimer(this);

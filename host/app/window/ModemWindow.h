@@ -10,8 +10,8 @@ class ModemSource;
 class QLabel;
 class QPushButton;
 
-/// Which modem it is and how it is, and the hand that plugs a simulated one in and out. A window of
-/// its own, because the diagnostics window blocks the host's.
+/// Shows the modem's name, description and state. Its buttons plug a simulated modem in and out. It
+/// is a separate window because the diagnostics window blocks the host's.
 class ModemWindow : public QWidget
 {
     Q_OBJECT

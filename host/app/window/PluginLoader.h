@@ -10,11 +10,11 @@
 class INotify;
 class IUIPlugin;
 
-/// One UI plug-in of the host, from its file to its running object and back.
+/// Loads and starts one UI plug-in of the host, and ends and unloads it.
 class PluginLoader
 {
 public:
-    /// How far the plug-in has come. It stays where a step failed; error() says why.
+    /// The last step that succeeded. error() has the reason why the next one failed.
     enum State
     {
         Named,      ///< only the file name is known
@@ -32,15 +32,15 @@ public:
     PluginLoader(const PluginLoader &) = delete;
     PluginLoader &operator=(const PluginLoader &) = delete;
 
-    /// Goes as far as possible; whether the plug-in is started.
+    /// Takes all remaining steps until one fails. Returns whether the plug-in is started.
     bool start();
 
     State state() const { return m_state; }
 
-    /// Why the next state was not reached; empty while nothing has failed.
+    /// Empty if no step has failed.
     QString error() const { return m_error; }
 
-    /// The plug-in's interfaces; null unless it is recognised.
+    /// The plug-in's interfaces. Null before the state Recognised.
     IUIPlugin *plugin() const { return m_plugin; }
     INotify *notify() const { return m_notify; }
 

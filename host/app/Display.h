@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef DISPLAY_H
+#define DISPLAY_H
+
+/// Where Qt shows the windows.
+namespace Display {
+
+/// Sets what Qt reads from the environment when the application object is made: windows are drawn
+/// offscreen if \a offscreen is set or if the environment names no display.
+void choose(bool offscreen);
+
+/// Whether there is no display, so that nobody can see the windows. The application object must
+/// exist.
+bool isMissing();
+
+} // namespace Display
+
+#endif

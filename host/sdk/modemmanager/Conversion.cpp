@@ -331,7 +331,7 @@ private:
         const bool tdScdma = productType() == VELT_PRODUCT_TD_SCDMA;
         const double top = tdScdma ? 91 : 31;
         double rssi = 0;
-        const QVariantList quality = property(m_modem, "SignalQuality").toList();
+        const QVariantList quality = toList(property(m_modem, "SignalQuality"));
         if (readRssi(rssi)) {
             const double raw = tdScdma ? rssi + 116 : (rssi + 113) / 2;
             numbers[NumberValue::Rssi] = std::lround(std::min(std::max(raw, 0.0), top));

@@ -109,7 +109,7 @@ QString band(const QVariant &value)
 QString bands(const QVariant &value)
 {
     QStringList shown;
-    for (const QVariant &one : value.toList())
+    for (const QVariant &one : toList(value))
         shown << band(one);
     shown.removeAll(QString());
     return shown.mid(0, 100).join(QStringLiteral(", "));
@@ -117,7 +117,7 @@ QString bands(const QVariant &value)
 
 QString modeCombination(const QVariant &value)
 {
-    const QVariantList pair = value.toList();
+    const QVariantList pair = toList(value);
     const QString allowed = flagged<modes>(pair.value(0));
     const QString preferred = flagged<modes>(pair.value(1));
     return preferred.isEmpty() ? allowed : allowed + QStringLiteral("; preferred ") + preferred;
@@ -162,7 +162,7 @@ QString bytes(const QVariant &value)
 QString percentage(const QVariant &value)
 {
     int64_t number = 0;
-    const bool isKnown = readNumber(value.toList().value(0), number) && number > 0 && number <= 100;
+    const bool isKnown = readNumber(toList(value).value(0), number) && number > 0 && number <= 100;
     return isKnown ? QString::number(number) + QStringLiteral(" %") : QString();
 }
 
@@ -186,7 +186,7 @@ QString power(const QVariant &value)
 /// Of an error's name and message.
 QString message(const QVariant &value)
 {
-    return toText(value.toList().value(1));
+    return toText(toList(value).value(1));
 }
 
 QString yesNo(const QVariant &value)

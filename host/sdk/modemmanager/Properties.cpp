@@ -43,6 +43,11 @@ QString text(const QVariantMap &properties, const char *name)
     return toText(property(properties, name));
 }
 
+QVariantList toList(const QVariant &value)
+{
+    return value.userType() == QMetaType::QVariantList ? value.toList() : QVariantList();
+}
+
 bool readNumber(const QVariant &value, int64_t &number)
 {
     const int type = value.userType();

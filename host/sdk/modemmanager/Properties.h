@@ -16,6 +16,9 @@ QVariant property(const QVariantMap &properties, const char *name);
 QString toText(const QVariant &value);
 QString text(const QVariantMap &properties, const char *name);
 
+/// Empty if it is not a list. (Qt 6 takes a text for a list of characters.)
+QVariantList toList(const QVariant &value);
+
 /// Returns false if it is not a whole number.
 bool readNumber(const QVariant &value, int64_t &number);
 int64_t number(const QVariantMap &properties, const char *name, int64_t missing = 0);

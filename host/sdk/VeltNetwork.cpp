@@ -14,7 +14,7 @@ VELT_ERROR answerRegistration(const char *function, VELT_REG_STATE *state, Numbe
         VELT_REG_STATE read = {};
         read.reportMode = answer.number<int32_t>(mode);
         read.state = answer.number<int32_t>(registration);
-        if (read.reportMode == 2) {
+        if (read.reportMode == VELT_REG_REPORT_LOCATION) {
             copyText(answer.text(lac), read.lac);
             copyText(answer.text(cellId), read.cellId);
         }
@@ -73,7 +73,7 @@ VELT_ERROR VELT_NetSrv_GetPSRegState(VELT_REG_STATE *state)
 VELT_ERROR VELT_NetSrv_SetCSRegReport(int32_t mode)
 {
     return Call(__func__, mode).answer([=](Answer &answer) {
-        if (mode < 0 || mode > 2)
+        if (mode < VELT_REG_REPORT_NONE || mode > VELT_REG_REPORT_LOCATION)
             return answer.note(VELT_ERROR_BAD_ARGUMENT);
         return answer.note(answer.modem().setReportMode(mode));
     });

@@ -21,7 +21,7 @@ enum VELT_DEVICE_EVENT
 };
 
 /// Receives the device events, on a thread of the SDK's own, one event at a time. \a data is
-/// reserved and null. Returns 1 when the event was of use and 0 otherwise, which the SDK ignores.
+/// reserved and null. Returns 1 for an event that it handles, else 0; the SDK ignores the result.
 /// A callback may call any function of the SDK, unregistering itself included.
 typedef int (*VELT_DEVICE_CALLBACK)(int event, void *data);
 
@@ -40,7 +40,7 @@ VELT_API VELT_ERROR VELT_DevSrv_UnRegisterDevMgrCallback(VELT_DEVICE_CALLBACK ca
 /// Ends a registration for the events of the initialisation, under the same rules.
 VELT_API VELT_ERROR VELT_DevSrv_UnRegisterDevInitEventCallback(VELT_DEVICE_CALLBACK callback);
 
-/// How far the device is.
+/// How far the device's initialisation is.
 enum VELT_DEVICE_STATUS
 {
     VELT_DEV_STATUS_NONE = 0,
@@ -96,8 +96,16 @@ VELT_API VELT_ERROR VELT_DevSrv_GetNumberOfCarrier(int32_t *count);
 
 // ---- SIM ----
 
-/// The state of the SIM: 0 invalid, 1 valid, 240 a card for roaming (a CDMA device without a card
-/// of its own), 255 no card.
+/// States of the SIM.
+enum VELT_SIM_STATUS
+{
+    VELT_SIM_INVALID = 0,
+    VELT_SIM_VALID = 1,
+    VELT_SIM_ROAMING = 240, ///< a card for roaming: a CDMA device without a card of its own
+    VELT_SIM_NONE = 255     ///< no card
+};
+
+/// The state of the SIM, see VELT_SIM_STATUS.
 VELT_API VELT_ERROR VELT_DevSrv_GetSimStatus(int32_t *status);
 
 /// PIN states, VELT_DevSrv_GetPinStatus().

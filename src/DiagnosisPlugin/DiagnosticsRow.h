@@ -9,19 +9,29 @@
 class QLabel;
 class QWidget;
 
-/// What the rows of both windows have in common: a caption and a value label, which are found again
-/// by their object names. GUI thread.
+/// A row of either window: a caption and a value label, which are found by their object names. GUI
+/// thread.
 class DiagnosticsRow
 {
 public:
-    /// Names the two labels after the row and prepares the value for texts that are not ours.
-    static void setUp(QLabel *caption, QLabel *value, const QString &rowName);
+    enum
+    {
+        CaptionWidth = 185 ///< in pixels
+    };
 
-    /// The labels of a row below a widget; null where there is none.
+    /// Names the two labels after the row, sets the caption's text and makes the value show plain
+    /// text, which can be selected and copied.
+    static void setUp(QLabel *caption, QLabel *value, const QString &rowName, const QString &text);
+
+    /// A label of a row among the descendants of a widget, which may be null; null if there is
+    /// none.
     static QLabel *caption(const QWidget *below, const QString &rowName);
     static QLabel *value(const QWidget *below, const QString &rowName);
 
-    /// Puts another wording in place of "SIM/USIM" in the caption of a row, if there is such a row.
+    /// Sets the caption's text of a row, if there is such a row.
+    static void setCaption(const QWidget *below, const QString &rowName, const QString &text);
+
+    /// Replaces "SIM/USIM" in the caption of a row, if there is such a row.
     static void replaceSimWording(const QWidget *below, const QString &rowName,
                                   const QString &wording);
 };

@@ -103,7 +103,7 @@ void ModuleTest::verificationData()
     QCOMPARE(lines.at(1), QByteArray("version=4.6.2"));
     QCOMPARE(lines.at(2), QByteArray("debug=false"));
     QVERIFY2(lines.at(3).startsWith("buildkey=" + QSysInfo::buildCpuArchitecture().toLatin1()) &&
-                 lines.at(3).endsWith(" full-config"),
+                 lines.at(3).endsWith(" full-config qt-" QT_STRINGIFY(QT_VERSION_MAJOR)),
              lines.at(3).constData());
 }
 

@@ -4,6 +4,7 @@
 #include "SimulatedModem.h"
 
 #include "Functions.h"
+#include "sdk/VeltDevice.h"
 
 #include <QFile>
 #include <QSettings>
@@ -34,7 +35,6 @@ bool toNumber(const std::string &text, int64_t &number)
 }
 
 const std::string resultsGroup = "results/";
-const int64_t noCard = 255; // SIM status
 
 } // namespace
 
@@ -101,7 +101,7 @@ void SimulatedModem::setValue(const std::string &key, const std::string &value)
 bool SimulatedModem::isCardMissing() const
 {
     int64_t status = 0;
-    return find(NumberValue::SimStatus, status) == VELT_SUCCESS && status == noCard;
+    return find(NumberValue::SimStatus, status) == VELT_SUCCESS && status == VELT_SIM_NONE;
 }
 
 VELT_ERROR SimulatedModem::find(const char *key, std::string &text) const

@@ -306,7 +306,7 @@ int DiagnosticsCdmaUI::createCdmaLabels()
         value->setObjectName(DiagnosticsRow::valueName(key));
         layout->addRow(caption, value);
     }
-    if (layout)
+    if (result == Success)
         m_pframeCdmaDiag->setLayout(layout);
     qDebug("%s: %s: %s:  label creation successful", LOG_AT);
     return result;

@@ -1,114 +1,90 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-// Start and memory of the whole program. This one has no toolkit, so that the measured programs
-// share none of its memory.
+// What the whole program costs. No Qt is in here, of which the measured programs would share
+// memory.
 
-#include "Measurement.h"
+#include "Line.h"
 
+#include <csignal>
+#include <err.h>
+#include <fcntl.h>
+#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
-#include <cstdlib>
-#include <fstream>
-
 namespace {
 
-typedef std::vector<const char *> Command;
-
-/// A program from its start until its dialog has been painted; it is killed at the end.
-class Program
+/// What awk prints of a file of the kernel.
+double number(const char *script, const std::string &file)
 {
-public:
-    explicit Program(const Command &command)
-    {
-        int ends[2];
-        if (pipe(ends) != 0)
-            std::abort();
-        std::vector<char *> arguments;
-        for (const char *argument : command)
-            arguments.push_back(const_cast<char *>(argument));
-        arguments.push_back(nullptr);
-        m_id = fork();
-        if (m_id == 0) {
-            setenv("LD_PRELOAD", BENCH_SHOWN, 1);
-            setenv("DIAG_SHOWN", std::to_string(ends[1]).c_str(), 1);
-            close(ends[0]);
-            execv(arguments[0], arguments.data());
-            _exit(1);
-        }
-        close(ends[1]);
-        m_shown = ends[0];
-    }
-    ~Program()
-    {
-        kill(m_id, SIGKILL);
-        waitpid(m_id, nullptr, 0);
-        close(m_shown);
-    }
-    Program(const Program &) = delete;
-    Program &operator=(const Program &) = delete;
-
-    /// False where the program has ended without a dialog.
-    bool waitUntilShown() const
-    {
-        char byte;
-        return read(m_shown, &byte, 1) == 1;
-    }
-
-    /// Proportional set size: shared pages count by their share.
-    double megabytes() const
-    {
-        std::ifstream memory("/proc/" + std::to_string(m_id) + "/smaps_rollup");
-        std::string word;
-        while (memory >> word && word != "Pss:")
-            ;
-        double kilobytes = 0;
-        memory >> kilobytes;
-        return kilobytes / 1024;
-    }
-
-private:
-    pid_t m_id;
-    int m_shown;
-};
-
-std::function<void(benchmark::State &)> start(const Command &command)
-{
-    return [=](benchmark::State &state) {
-        for (auto _ : state) {
-            const auto begin = std::chrono::steady_clock::now();
-            const Program program(command);
-            if (!program.waitUntilShown())
-                state.SkipWithError("the program shows no dialog");
-            const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - begin;
-            state.SetIterationTime(passed.count());
-        }
-    };
+    double number = 0;
+    FILE *const output = popen(("awk '" + std::string(script) + "' " + file).c_str(), "r");
+    if (!output || std::fscanf(output, "%lf", &number) != 1)
+        errx(1, "%s tells no number", file.c_str());
+    pclose(output);
+    return number;
 }
 
-std::function<void(benchmark::State &)> memory(const Command &command)
+double megabytes(const std::string &process)
 {
-    return [=](benchmark::State &state) {
-        for (auto _ : state) {
-            const Program program(command);
-            if (!program.waitUntilShown())
-                state.SkipWithError("the program shows no dialog");
-            state.SetIterationTime(1);
-            state.counters["MB"] = program.megabytes();
-        }
+    return number("/^Pss:/ { print $2 / 1024 }", process + "/smaps_rollup");
+}
+
+double wakeUps(const std::string &process)
+{
+    const auto sleeps = [&] {
+        return number("/^voluntary/ { sum += $2 } END { print sum }", process + "/task/*/status");
     };
+    sleep(2); // what the start has left to do
+    const double before = sleeps();
+    sleep(10);
+    return sleeps() - before;
+}
+
+/// Runs a program until it has painted a dialog or ends. The seconds, or \a figure of it then.
+double run(const char *const *command, double (*figure)(const std::string &) = nullptr)
+{
+    int output[2];
+    pid_t id;
+    if (pipe2(output, O_CLOEXEC) != 0)
+        err(1, "pipe2");
+    const double passed = seconds(1, [&] {
+        id = fork();
+        if (id == 0) {
+            setenv("LD_PRELOAD", BENCH_SHOWN, 1);
+            dup2(output[1], STDOUT_FILENO);
+            execv(command[0], const_cast<char *const *>(command));
+            _exit(1);
+        }
+        close(output[1]);
+        char text[4096];
+        while (read(output[0], text, sizeof text) > 0)
+            ;
+    });
+    const double result = figure ? figure("/proc/" + std::to_string(id)) : passed;
+    int status;
+    kill(id, SIGKILL);
+    if (waitpid(id, &status, 0) != id || (status != 0 && status != SIGKILL))
+        errx(1, "%s fails", command[0]);
+    close(output[0]);
+    return result;
 }
 
 } // namespace
 
-int main(int argc, char *argv[])
+int main()
 {
-    const Command host = {BENCH_HOST, "--modem", "wcdma", "--open"};
-    const Command bare = {BENCH_BARE};
-    return printTable(
-        argc, argv,
-        {{"start of diagnosis-host to a filled window", "ms", 1.25, 3, start(host), start(bare)},
-         {"memory (PSS) of that", "MB", 1.15, 1, memory(host), memory(bare)}});
+    const char *const host[] = {BENCH_HOST, "--modem", "wcdma", "--open", nullptr};
+    const char *const report[] = {BENCH_HOST, "--modem", "wcdma", "--report", nullptr};
+    const char *const bare[] = {BENCH_BARE, nullptr};
+    const char *const bareToEnd[] = {BENCH_BARE, "--end", nullptr};
+    printLine("start of diagnosis-host to a filled window", "ms", 1e3, 1.25, 40,
+              [&](bool product) { return run(product ? host : bare); });
+    printLine("--report, from start to end", "ms", 1e3, 0, 40,
+              [&](bool product) { return run(product ? report : bareToEnd); });
+    printLine("memory (PSS) of the filled window", "MB", 1, 1.15, 10,
+              [&](bool product) { return run(product ? host : bare, megabytes); });
+    printLine("wake-ups in 10 s of the idle window", "", 1, 0, 2,
+              [&](bool product) { return run(product ? host : bare, wakeUps); });
 }

@@ -8,13 +8,17 @@
 #include "modem/ModemSource.h"
 #include "report/DiagnosticsReader.h"
 #include "report/Masking.h"
+#include "report/Report.h"
 #include "window/MainWindow.h"
 #include "window/PluginLoader.h"
 
 #include <QDialog>
 #include <QFormLayout>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLabel>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QtTest>
@@ -122,6 +126,13 @@ private Q_SLOTS:
             QCOMPARE(state->text(), plugged ? "Plugged in" : "Unplugged");
             QVERIFY(!buttons[plugged]->isEnabled() && buttons[!plugged]->isEnabled());
         }
+        auto *const message = window.findChild<QLabel *>("MainWindow_labelMessage");
+        auto *const open = window.findChild<QPushButton *>("MainWindow_pushButtonDiagnostics");
+        open->click();
+        QCOMPARE(message->text(), "The diagnostics window could not be opened.");
+        qApp->setProperty("opens", 1);
+        open->click();
+        QCOMPARE(message->text(), QString());
         QCOMPARE(count("notified"), 0);
         window.close();
         QCOMPARE(count("notified"), 1);
@@ -171,6 +182,35 @@ private Q_SLOTS:
         QCOMPARE(maskedValue({fields.at(1), QString(), fields.at(2)}), fields.at(3));
     }
 
+    void report()
+    {
+        const Report report({{"SIM/USIM",
+                              "SIM",
+                              {{"IMSI number", "IMSI", "001010000000017"},
+                               {"APN", "Zugang", ""},
+                               {"Network name", "Netz", "a\x1B\n\x7F\u0085\u00E9"}}},
+                             {QString(), "Diagnose", {}}},
+                            {"/dev/null/none", "de", "wcdma", "A problem."}, Report::Masked);
+        const QRegularExpression date("  Date: [-0-9]{10}T[:0-9]{8}(Z|[-+:0-9]{6})\n");
+        QCOMPARE(report.text().remove(date).replace(qVersion(), "V"),
+                 QString("Report\n  Host: diagnosis-host \n  Configuration: missing\n"
+                         "  Toolkit: Qt V\n  Language: de\n  Modem: wcdma\n  Problem: A problem.\n"
+                         "  Identifiers: masked\n\nSIM\n  IMSI: 00101********17\n  Zugang: \n"
+                         "  Netz: a\uFFFD\uFFFD\uFFFD\uFFFD\u00E9\n\nDiagnose\n"));
+        QJsonObject json = QJsonDocument::fromJson(report.json()).object();
+        QVERIFY(!json.take("date").isUndefined());
+        QCOMPARE(
+            QString(QJsonDocument(json).toJson(QJsonDocument::Compact)).replace(qVersion(), "V"),
+            QString("{'configuration':'missing','host':'diagnosis-host ','identifiers':'masked',"
+                    "'language':'de','modem':'wcdma','problem':'A problem.','tabs':[{'caption':"
+                    "'SIM','name':'SIM/USIM','rows':[{'caption':'IMSI','known':true,'name':"
+                    "'IMSI number','value':'00101********17'},{'caption':'Zugang','known':false,"
+                    "'name':'APN','value':''},{'caption':'Netz','known':true,'name':"
+                    "'Network name','value':'a\\u001b\\n\x7F\u0085\u00E9'}]},{'caption':"
+                    "'Diagnose','name':null,'rows':[]}],'toolkit':'Qt V'}")
+                .replace('\'', '"'));
+    }
+
     /// The host reads the shipped window. On its longest page, of 15 rows, nothing is squeezed or
     /// clipped.
     void realWindow()
@@ -181,26 +221,26 @@ private Q_SLOTS:
         const HostPlugins hostPlugins;
         PluginLoader loader(built.filePath(HOST_PLUGIN_DIR "/libDiagnosisPlugin.so"));
         QVERIFY2(loader.start(), qPrintable(loader.error()));
-        for (const char *language : {"de", "en"}) {
-            QVERIFY(HostCore::setLanguage(built.filePath(HOST_DATA_DIR "/translations"), language));
-            MainWindow window(m_modem, loader);
-            window.show();
-            QVERIFY(!DiagnosticsReader().window());
-            QVERIFY(window.openDiagnostics());
-            const DiagnosticsReader reader;
-            QVERIFY(qobject_cast<QDialog *>(reader.window()));
-            QCOMPARE(reader.tabNames().join('|'),
-                     "Device|Network settings|Network status|SIM/USIM");
-            QVERIFY(!reader.selectTab("Netzstatus"));
-            QVERIFY(reader.selectTab("Network status"));
-            auto *const tabs = reader.window()->findChild<QTabWidget *>();
-            qobject_cast<QFormLayout *>(tabs->widget(0)->layout())->addRow("Not ours", new QLabel);
-            QCOMPARE(reader.read().at(0).rows.size(), 7);
-            QCOMPARE(reader.read().at(2).rows.size(), 15);
-            QCOMPARE(tabs->currentIndex(), 2);
-            QVERIFY(tabs->tabBar()->sizeHint().width() <= tabs->width());
-            QCOMPARE(clipped(reader.window()), QStringList());
-        }
+        QVERIFY(HostCore::setLanguage(built.filePath(HOST_DATA_DIR "/translations"), "de"));
+        MainWindow window(m_modem, loader);
+        window.show();
+        QVERIFY(!DiagnosticsReader().window());
+        QVERIFY(window.openDiagnostics());
+        const DiagnosticsReader reader;
+        QVERIFY(qobject_cast<QDialog *>(reader.window()));
+        reader.window()->hide();
+        QVERIFY(!DiagnosticsReader().window());
+        reader.window()->show();
+        QCOMPARE(reader.tabNames().join('|'), "Device|Network settings|Network status|SIM/USIM");
+        QVERIFY(!reader.selectTab("Netzstatus"));
+        QVERIFY(reader.selectTab("Network status"));
+        auto *const tabs = reader.window()->findChild<QTabWidget *>();
+        qobject_cast<QFormLayout *>(tabs->widget(0)->layout())->addRow("Not ours", new QLabel);
+        QCOMPARE(reader.read().at(0).rows.size(), 7);
+        QCOMPARE(reader.read().at(2).rows.size(), 15);
+        QCOMPARE(tabs->currentIndex(), 2);
+        QVERIFY(tabs->tabBar()->sizeHint().width() <= tabs->width());
+        QCOMPARE(clipped(reader.window()), QStringList());
     }
 };
 

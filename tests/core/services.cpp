@@ -37,7 +37,7 @@ private Q_SLOTS:
         PluginContainer *const container = Startup::GetPluginContainer();
         QObject first;
         auto *second = new QObject;
-        const QString identifier = QStringLiteral("3D0F6A21");
+        const QString identifier = "3D0F6A21";
         plugins.add(identifier, 4100, &first);
         plugins.add(identifier, 4100, second);
         QCOMPARE(container->GetPlugin(identifier, 4100), second);

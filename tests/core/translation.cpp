@@ -3,15 +3,17 @@
 
 #include "HostCore.h"
 #include "core/Change.h"
+#include "core/CommonUtils.h"
 
 #include <QDirIterator>
 #include <QKeySequence>
+#include <QLabel>
 #include <QTranslator>
 #include <QtTest>
 
 namespace {
 
-const QString folder = QStringLiteral(TRANSLATIONS_DIR);
+const QString folder = TRANSLATIONS_DIR;
 
 QString text(const char *key, const char *context = "DiagnosisPlugin")
 {
@@ -22,8 +24,8 @@ QString text(const char *key, const char *context = "DiagnosisPlugin")
 QSet<QByteArray> keysIn(const char *where)
 {
     QSet<QByteArray> keys;
-    const QRegularExpression pattern(QStringLiteral("\\bIDS_[A-Z0-9_]*[A-Z0-9]\\b"));
-    QDirIterator files(QStringLiteral(DIAG_SOURCE_DIR "/") + QLatin1String(where), QDir::Files,
+    const QRegularExpression pattern("\\bIDS_[A-Z0-9_]*[A-Z0-9]\\b");
+    QDirIterator files(DIAG_SOURCE_DIR "/" + QLatin1String(where), QDir::Files,
                        QDirIterator::Subdirectories);
     while (files.hasNext()) {
         QFile file(files.next());
@@ -44,15 +46,14 @@ class TranslationTest : public QObject
 private Q_SLOTS:
     void chosenLanguage()
     {
-        QCOMPARE(HostCore::languages(folder).join(QLatin1Char(' ')),
-                 QStringLiteral("ar de en es fr zh_CN"));
-        QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), QStringLiteral("Unknown")); // without any file
-        QVERIFY(HostCore::setLanguage(folder, QStringLiteral("de")));
+        QCOMPARE(HostCore::languages(folder).join(' '), "ar de en es fr zh_CN");
+        QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), "Unknown"); // without any file
+        QVERIFY(HostCore::setLanguage(folder, "de"));
         for (const char *wrong : {"xx", "", "../translations/host_en", "en.qm"})
             QVERIFY(!HostCore::setLanguage(folder, QLatin1String(wrong)));
-        QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), QStringLiteral("Unbekannt"));
-        QCOMPARE(QCoreApplication::translate("ModemWindow", "&Unplug"),
-                 QStringLiteral("&Abziehen"));
+        QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), "Unbekannt");
+        QCOMPARE(QCoreApplication::translate("ModemWindow", "&Unplug"), "&Abziehen");
+        QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
     }
 
     void unknownKeysAreEmpty()
@@ -66,13 +67,12 @@ private Q_SLOTS:
     {
         // A language file with one text only.
         QTemporaryDir poor;
-        const QString source = poor.filePath(QStringLiteral("host_fr.ts"));
-        QVERIFY(QFile::copy(QStringLiteral(TEST_SOURCE_DIR "/poor.ts"), source));
-        QCOMPARE(QProcess::execute(QStringLiteral(LRELEASE), {QStringLiteral("-silent"), source}),
-                 0);
-        QVERIFY(HostCore::setLanguage(poor.path(), QStringLiteral("fr")));
-        QCOMPARE(text("IDS_OK"), QStringLiteral("Bien"));
-        QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), QStringLiteral("Unknown"));
+        const QString source = poor.filePath("host_fr.ts");
+        QVERIFY(QFile::copy(TEST_SOURCE_DIR "/poor.ts", source));
+        QCOMPARE(QProcess::execute(LRELEASE, {"-silent", source}), 0);
+        QVERIFY(HostCore::setLanguage(poor.path(), "fr"));
+        QCOMPARE(text("IDS_OK"), "Bien");
+        QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), "Unknown");
     }
 
     void everyKeyHasATextInEveryLanguage()
@@ -83,9 +83,29 @@ private Q_SLOTS:
         for (const QString &language : HostCore::languages(folder)) {
             // Without the fallback to English.
             QTranslator translator;
-            QVERIFY(translator.load(QStringLiteral("%1/host_%2.qm").arg(folder, language)));
+            QVERIFY(translator.load(folder + "/host_" + language + ".qm"));
             for (const QByteArray &key : keys)
                 QVERIFY2(!translator.translate("DiagnosisPlugin", key).isEmpty(), key);
+        }
+    }
+
+    /// All texts but the messages about the export keep to a caption's 185 pixels. The window of
+    /// CDMA devices gives each row 35 pixels, and 20 of them are between the rows.
+    void captionsFit()
+    {
+        HostCore::applyLook(*qApp);
+        const QSet<QByteArray> keys = keysIn("config") + keysIn("src");
+        for (const QString &language : HostCore::languages(folder)) {
+            QVERIFY(HostCore::setLanguage(folder, language));
+            for (const QByteArray &key : keys) {
+                const QLabel caption(text(key));
+                int width = 0;
+                int height = 0;
+                CommonUtils::GetApplicationStringHeightAndWidth(caption.text(), width, height);
+                QVERIFY2(caption.sizeHint().width() <= 185 || key.contains("_EXPORT"), key);
+                QCOMPARE(width, caption.fontMetrics().horizontalAdvance(caption.text()));
+                QVERIFY2(height >= caption.sizeHint().height() && height <= 15, key);
+            }
         }
     }
 
@@ -100,8 +120,7 @@ private Q_SLOTS:
                 QVERIFY2(titles.filter(text(tab), Qt::CaseInsensitive).isEmpty(), tab);
                 titles.append(text(tab));
             }
-            QCOMPARE(titles.filter(QStringLiteral("sim"), Qt::CaseInsensitive),
-                     QStringList(titles.last()));
+            QCOMPARE(titles.filter("sim", Qt::CaseInsensitive), QStringList(titles.last()));
             for (const char *key :
                  {"IDS_DIAGNOSE_SIM_MESSAGES", "IDS_DIAGNOSE_SIM_CONTACTS",
                   "IDS_MAINFRM_SIM_MESSAGE_CONTENT_PROMPT", "IDS_MAINFRM_SIM_CONTACT_CONTENT"})
@@ -113,10 +132,10 @@ private Q_SLOTS:
             QCOMPARE(mnemonics.size(), 3);
         }
         QCOMPARE(QGuiApplication::layoutDirection(), Qt::LeftToRight);
-        QVERIFY(HostCore::setLanguage(folder, QStringLiteral("ar")));
+        QVERIFY(HostCore::setLanguage(folder, "ar"));
         QCOMPARE(QGuiApplication::layoutDirection(), Qt::RightToLeft);
-        QVERIFY(HostCore::setLanguage(folder, QStringLiteral("en")));
-        QCOMPARE(text("IDS_TAB_NETWORK_STATUS"), QStringLiteral("Network status"));
+        QVERIFY(HostCore::setLanguage(folder, "en"));
+        QCOMPARE(text("IDS_TAB_NETWORK_STATUS"), "Network status");
     }
 };
 

@@ -5,21 +5,16 @@
 
 #include "SdkCalls.h"
 #include "SdkControl.h"
-#include "TestSupport.h"
 #include "modemmanager/ModemService.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 
 #include <mutex>
 
-namespace ServiceSupport {
+#include <sys/resource.h>
 
-QString content(const char *fileName)
-{
-    return TestSupport::contentOf(QString(TEST_SOURCE_DIR "/") + fileName);
-}
+namespace ServiceSupport {
 
 Pairs pairs(const QString &text)
 {
@@ -30,41 +25,6 @@ Pairs pairs(const QString &text)
     }
     return pairs;
 }
-
-// ---- Programs ----
-
-void Program::start(const QString &program, const QStringList &arguments)
-{
-    m_process.setStandardOutputFile(QProcess::nullDevice());
-    m_process.setStandardErrorFile(QProcess::nullDevice());
-    m_process.start("setpriv", QStringList{"--pdeathsig", "KILL", "--", program} + arguments);
-    m_process.waitForStarted();
-}
-
-void Program::stop()
-{
-    m_process.kill();
-    m_process.waitForFinished();
-}
-
-PrivateBus::PrivateBus() : m_socket(m_folder.filePath("bus"))
-{
-    for (const char *name : {"DBUS_SYSTEM_BUS_ADDRESS", "DBUS_SESSION_BUS_ADDRESS"})
-        qputenv(name, "unix:path=" + QFile::encodeName(m_socket));
-}
-
-QString PrivateBus::start()
-{
-    QFile::remove(m_socket);
-    m_daemon.start("dbus-daemon",
-                   {"--nofork", "--nopidfile", "--config-file=" TEST_SOURCE_DIR "/bus.conf",
-                    "--address=unix:path=" + m_socket});
-    return QTest::qWaitFor([&] { return QFile::exists(m_socket); })
-               ? ""
-               : "dbus-daemon does not start (package dbus-daemon)";
-}
-
-// ---- The SDK ----
 
 static std::mutex eventMutex;
 static QStringList eventTexts;
@@ -79,7 +39,7 @@ static int takeEvent(int event, void *)
     return 1;
 }
 
-Pairs readSdk()
+static Pairs readSdk()
 {
     Pairs values = SdkCalls::answers();
     QStringList all = values.values();
@@ -95,8 +55,10 @@ Pairs readSdk()
     return values;
 }
 
-QString differences(const Pairs &expected)
+/// Returns what differs from the expected pairs; empty if nothing does.
+static QString differences(const QString &expectation)
 {
+    const Pairs expected = pairs(expectation);
     const Pairs values = readSdk();
     QStringList found;
     for (auto i = expected.begin(); i != expected.end(); ++i) {
@@ -106,13 +68,30 @@ QString differences(const Pairs &expected)
     return found.join(", ");
 }
 
-void startEvents()
+void expect(const QString &expected)
+{
+    static int limit = 10000;
+    QString found;
+    if (!QTest::qWaitFor([&] { return (found = differences(expected)).isEmpty(); }, limit))
+        limit = 1000;
+    QCOMPARE(found, QString());
+}
+
+static void startEvents()
 {
     VELT_DevSrv_UnRegisterDevMgrCallback(takeEvent);
     VELT_DevSrv_UnRegisterDevInitEventCallback(takeEvent);
     eventTexts.clear();
     VELT_DevSrv_RegisterDevMgrCallback(takeEvent);
     VELT_DevSrv_RegisterDevInitEventCallback(takeEvent);
+}
+
+/// How often this thread has waited.
+static long waits()
+{
+    rusage usage = {};
+    getrusage(RUSAGE_THREAD, &usage);
+    return usage.ru_nvcsw;
 }
 
 void perform(const QStringList &steps, Commands commands)
@@ -125,7 +104,15 @@ void perform(const QStringList &steps, Commands commands)
         QVERIFY(!ModemService::isPresent(5000) && timer.elapsed() < 2000);
     };
     commands["events"] = [](const QString &) { startEvents(); };
-    commands["expect"] = [](const QString &pairs) { EXPECT(pairs); };
+    commands["expect"] = expect;
+    commands["still"] = [](const QString &pairs) { QCOMPARE(differences(pairs), QString()); };
+    commands["at-once"] = [](const QString &) {
+        // Now and then another thread holds a lock; a question to the service is a wait each time.
+        const long before = waits();
+        for (int round = 0; round < 200 && waits() - before < 100; ++round)
+            readSdk();
+        QVERIFY2(waits() - before < 100, qPrintable(QString::number(waits() - before)));
+    };
     commands["pause"] = [](const QString &time) { QTest::qWait(time.toInt()); };
     for (const QString &step : steps) {
         const auto command = commands.find(step.section(' ', 0, 0));

@@ -46,9 +46,22 @@ class Conversion : public QObject
     Q_OBJECT
 
 private slots:
+    void codes_data() { TestSupport::addRows(TEST_SOURCE_DIR "/conversion.txt", "codes"); }
+    void codes();
     void values_data() { TestSupport::addRows(TEST_SOURCE_DIR "/conversion.txt", "values"); }
     void values();
 };
+
+void Conversion::codes()
+{
+    QFETCH(QStringList, fields);
+    QStringList found;
+    const qlonglong first = fields.at(3).toLongLong();
+    for (qlonglong code = first; code < first + fields.at(4).split(' ').size(); ++code)
+        found << valuesOf(convertWith({{fields.at(0), QVariantMap{{fields.at(1), code}}}}))
+                     .value(fields.at(2));
+    QCOMPARE(found.join(' '), fields.at(4));
+}
 
 void Conversion::values()
 {

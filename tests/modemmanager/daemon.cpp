@@ -1,16 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
+#include "ServiceSupport.h"
 #include "TestSupport.h"
 #include "VirtualModem.h"
 #include "modemmanager/ModemService.h"
-#include "modemmanager/ServiceTiming.h"
 
 #include <QtTest>
 
 using namespace ServiceSupport;
-
-static const ServiceTiming shortTiming{300, 1500};
 
 /// The real service with a virtual modem.
 class ModemManagerDaemon : public QObject
@@ -23,19 +21,12 @@ private slots:
     void cleanup() { ModemService::detach(); }
     void modems_data() { TestSupport::addRows(TEST_SOURCE_DIR "/daemon.txt", "modems"); }
     void modems();
-    void queries_data() { TestSupport::addRows(TEST_SOURCE_DIR "/daemon.txt", "queries"); }
-    void queries()
-    {
-        if (qEnvironmentVariableIsSet("WITHOUT_QUERIES"))
-            QSKIP("run by ./test --full");
-        modems();
-    }
     void scripts_data() { TestSupport::addRows(TEST_SOURCE_DIR "/daemon.txt", "scripts"); }
     void scripts();
 
 private:
     VirtualModem m_virtual;
-    const QString m_home = content("sdk.home");
+    const QString m_home = TestSupport::contentOf(TEST_SOURCE_DIR "/sdk.home");
 };
 
 void ModemManagerDaemon::initTestCase()
@@ -55,24 +46,21 @@ void ModemManagerDaemon::init()
 void ModemManagerDaemon::modems()
 {
     QFETCH(QStringList, fields);
-    m_virtual.modem().set(fields.at(2));
+    m_virtual.modem().set(fields.at(2).toLatin1());
     QVERIFY(m_virtual.add(fields.at(1) == "enabled"));
-    EXPECT(fields.at(3) == "home" ? m_home : fields.at(3));
+    expect(fields.at(3));
 }
 
 void ModemManagerDaemon::scripts()
 {
     QFETCH(QStringList, fields);
     perform(
-        fields.mid(1),
+        fields.replaceInStrings("HOME", m_home).mid(1),
         {
             {"service", [&](const QString &) { m_virtual.startService(); }},
             {"add", [&](const QString &) { QVERIFY(m_virtual.add()); }},
-            {"home", [&](const QString &events) { EXPECT(m_home + "\nevents = " + events); }},
-            {"still-home",
-             [&](const QString &) { QCOMPARE(differences(pairs(m_home)), QString()); }},
             {"present", [&](const QString &) { QVERIFY(ModemService::isPresent(5000)); }},
-            {"answer", [&](const QString &answers) { m_virtual.modem().set(answers); }},
+            {"answer", [&](const QString &text) { m_virtual.modem().set(text.toLatin1()); }},
             {"send", [&](const QString &line) { m_virtual.modem().send(line.toLatin1()); }},
             {"signal", [&](const QString &number) { m_virtual.daemon().signal(number.toInt()); }},
         });

@@ -76,7 +76,7 @@ private Q_SLOTS:
 
     void fileThatIsNone()
     {
-        for (const std::string file : {"/nowhere/modem.ini", TEST_SOURCE_DIR}) {
+        for (const std::string file : {TEST_SOURCE_DIR "/distinct.ini/none", TEST_SOURCE_DIR}) {
             std::string error;
             QVERIFY(!SimulatedModem::load(file, &error));
             QVERIFY2(error.find(file + ": ") == 0 && error.size() > file.size() + 5, error.c_str());

@@ -41,6 +41,9 @@ struct TestedCall
     const char *function;
     VELT_ERROR (*run)(Outs &);
     const char *arguments;
+    /// What the call writes on the modem tests/sdk/distinct.ini, as show() has it, with "{key}" for
+    /// a value of the modem; or "error N".
+    const char *answer;
 
     /// Without the prefix of the function, and with its arguments if there are any.
     QString name() const;

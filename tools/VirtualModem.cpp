@@ -3,11 +3,13 @@
 
 #include "VirtualModem.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
 #include <QFile>
-#include <QtTest>
+#include <QTest>
 
-using namespace ServiceSupport;
-
+static const QString service = "org.freedesktop.ModemManager1";
+static const QString servicePath = "/org/freedesktop/ModemManager1";
 static const char program[] = "/usr/sbin/ModemManager";
 static const int longTime = 15000; // ms
 
@@ -41,6 +43,7 @@ QVariant VirtualModem::ask(const char *object, const char *interface, const char
     QDBusMessage message =
         QDBusMessage::createMethodCall(service, servicePath + object, interface, method);
     message.setArguments(arguments);
+    message.setAutoStartService(false);
     const QDBusMessage reply = QDBusConnection::connectToBus(QDBusConnection::SystemBus, "test")
                                    .call(message, QDBus::Block, longTime);
     return reply.type() == QDBusMessage::ErrorMessage ? QVariant()

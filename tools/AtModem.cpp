@@ -3,13 +3,13 @@
 
 #include "AtModem.h"
 
-#include "ServiceSupport.h"
+#include <QFile>
+#include <QString>
 
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <cstddef>
 #include <cstring>
 
@@ -19,7 +19,10 @@ AtModem::AtModem()
 {
     static int count = 0;
     m_port = QString("abstract:modem%1:%2").arg(++count).arg(getpid()).toLatin1();
-    set(ServiceSupport::content("at_modem.txt"));
+    QFile usual(TOOLS_DIR "/at_modem.txt");
+    if (!usual.open(QIODevice::ReadOnly))
+        qFatal("no virtual modem: %s", qPrintable(usual.errorString()));
+    set(usual.readAll());
     sockaddr_un address = {};
     address.sun_family = AF_UNIX;
     std::memcpy(address.sun_path + 1, m_port.constData(), static_cast<size_t>(m_port.size()));
@@ -38,13 +41,15 @@ AtModem::~AtModem()
     close(m_listener);
 }
 
-void AtModem::set(const QString &answers)
+void AtModem::set(const QByteArray &answers)
 {
     const Lock lock(m_mutex);
-    const auto pairs = ServiceSupport::pairs(answers);
-    for (auto i = pairs.begin(); i != pairs.end(); ++i) {
-        for (const QString &command : i.key().split(' '))
-            m_answers[command.toLatin1()] = i->toLatin1().replace("\\n", "\r\n");
+    for (const QByteArray &line : QByteArray(answers).replace("; ", "\n").split('\n')) {
+        const int end = line.indexOf(" =");
+        if (line.startsWith('#') || end < 0)
+            continue;
+        for (const QByteArray &command : line.left(end).split(' '))
+            m_answers[command] = line.mid(end + 2).trimmed().replace("\\n", "\r\n");
     }
 }
 
@@ -80,19 +85,19 @@ void AtModem::run()
 
 void AtModem::answer(const QByteArray &command)
 {
-    std::unique_lock<std::mutex> lock(m_mutex);
-    const int late = m_answers["late"].toInt();
-    const QByteArray general = command.left(command.indexOf('=') + 1);
-    QByteArray found = m_answers.value(command, m_answers.value(general, "ERROR"));
-    // The operator comes in the format that was last asked for.
-    if (command.startsWith("AT+COPS=3,")) {
-        m_answers["AT+COPS?"] = found;
-        found.clear();
+    QByteArray found;
+    {
+        const Lock lock(m_mutex);
+        const QByteArray general = command.left(command.indexOf('=') + 1);
+        found = m_answers.value(command, m_answers.value(general, "ERROR"));
+        // The operator comes in the format that was last asked for.
+        if (command.startsWith("AT+COPS=3,")) {
+            m_answers["AT+COPS?"] = found;
+            found.clear();
+        }
     }
-    lock.unlock();
-    std::this_thread::sleep_for(std::chrono::milliseconds(late));
     if (found.contains("ERROR"))
         send(found);
-    else if (found != "no answer")
+    else
         send(found.isEmpty() ? "OK" : found + "\r\n\r\nOK");
 }

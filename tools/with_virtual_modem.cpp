@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-// Runs a program on a private system bus, on which the real service has a virtual modem:
+// Runs a program on a private message bus, where the real service has a virtual modem:
 //     with_virtual_modem diagnosis-host --modem modemmanager
 
 #include "VirtualModem.h"
 
 #include <QCoreApplication>
+#include <QProcess>
 #include <QThread>
 
 #include <cstdio>

@@ -21,10 +21,10 @@ public:
     /// The name of its port, for the service.
     QByteArray port() const { return m_port; }
 
-    /// Sets answers: commands, separated by spaces, " = " and their answer, as at_modem.txt has
-    /// them. A command that ends in '=' stands for all its arguments. For "no answer" there is
-    /// none; the answer to "late" is for how long (ms) all others are held back.
-    void set(const QString &answers);
+    /// Sets answers, a line each or separated by "; ": commands, separated by spaces, " = " and
+    /// their answer, as at_modem.txt has them. A command that ends in '=' stands for all its
+    /// arguments.
+    void set(const QByteArray &answers);
     /// Sends a line unasked.
     void send(const QByteArray &line);
 

@@ -39,6 +39,9 @@ CORE_EXPORT QString systemLanguage(const QString &folder);
 /// The diagnostics plug-in's text for a resource key.
 CORE_EXPORT QString pluginText(const QString &key);
 
+/// The resource keys that have a text.
+CORE_EXPORT QStringList resourceKeys();
+
 /// Sets what Startup::GetPluginContainer() returns. May be null. Not owned.
 CORE_EXPORT void setPluginContainer(PluginContainer *container);
 

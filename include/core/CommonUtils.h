@@ -21,6 +21,8 @@ public:
     static QString GetPluginLibraryPath();
 
     /// A value of the host's settings file, by group and key; a null string where there is none.
+    /// The diagnostics plug-in asks for "version" of the group "version", the host's software
+    /// version.
     static QString GetSettings(const QString &group, const QString &key);
 
     /// Shows a message box and blocks, in an event loop of its own, until the user has answered or

@@ -12,6 +12,9 @@ class QVBoxLayout;
 
 /// The host's dialog frame: a window with title bar and close button around one content widget.
 /// Used on the GUI thread.
+///
+/// Plug-ins make it with new, so its size, its base class and the order of its virtual functions
+/// are part of the binary contract: a plug-in is built with the header of the host that loads it.
 class CORE_EXPORT ExtendDialog : public QDialog
 {
     Q_OBJECT

@@ -49,6 +49,9 @@ CORE_EXPORT void setPluginContainer(PluginContainer *container);
 /// diagnostics window.
 CORE_EXPORT void applyLook(QApplication &application);
 
+/// Sets whether dialogs that are made from now on stay off the screen, because they are only read.
+CORE_EXPORT void setDialogsUnseen(bool unseen);
+
 /// The host's container. It forgets a plug-in that is deleted.
 class CORE_EXPORT PluginRegister : public PluginContainer
 {

@@ -20,7 +20,7 @@ class CORE_EXPORT ExtendDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// \a parent owns the frame and may be null. \a flags are the wanted hints of the title bar;
+    /// \a parent owns the frame and may be null. \a flags are the hints of the title bar;
     /// the frame adds the title and what a dialog needs. \a widgetType chooses the frame: 1 is the
     /// plain dialog, and unknown types are shown like it.
     ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int widgetType);
@@ -40,8 +40,8 @@ public:
     void done(int result) override;
 
 Q_SIGNALS:
-    /// The dialog has ended: emitted exactly once in its life, however that came (button, title
-    /// bar, Esc, or destruction with its parent).
+    /// The dialog has ended: emitted exactly once in its life, in whichever way it ended (button,
+    /// title bar, Esc, or destruction with its parent).
     void dlgCloseEvent();
 
 protected:

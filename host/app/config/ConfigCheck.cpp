@@ -4,11 +4,11 @@
 #include "config/ConfigCheck.h"
 
 #include "config/CaptionRules.h"
+#include "config/ConfigFile.h"
 #include "config/ConfigSchema.h"
 
 #include "HostCore.h"
 
-#include <QFile>
 #include <QHash>
 #include <QList>
 #include <QPair>
@@ -379,16 +379,10 @@ xmlParserInputPtr loadNothing(const char *, const char *, xmlParserCtxtPtr)
 
 bool readFile(const QString &fileName, QByteArray *content, QString *error)
 {
-    QFile file(fileName);
-    if (file.open(QIODevice::ReadOnly)) {
-        *content = file.read(LargestFile + 1);
-        if (file.error() == QFileDevice::NoError && content->size() <= LargestFile)
-            return true;
-    }
-    *error = QStringLiteral("cannot read %1: %2")
-                 .arg(fileName, content->size() > LargestFile
-                                    ? QStringLiteral("larger than %1 bytes").arg(LargestFile)
-                                    : file.errorString());
+    QString reason;
+    if (ConfigFile::read(fileName, LargestFile, content, &reason))
+        return true;
+    *error = QStringLiteral("cannot read %1: %2").arg(fileName, reason);
     return false;
 }
 

@@ -24,7 +24,9 @@
 #include <QRect>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTextStream>
 #include <QTime>
+#include <QXmlStreamReader>
 
 #include <cstdio>
 #include <memory>
@@ -41,6 +43,13 @@ namespace {
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUILogic";
 
 void nothing() {}
+
+QTextStream &endLine(QTextStream &stream)
+{
+    stream << '\n';
+    stream.flush();
+    return stream;
+}
 
 void deleteLeftOvers()
 {

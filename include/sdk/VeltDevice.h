@@ -96,8 +96,16 @@ VELT_API VELT_ERROR VELT_DevSrv_GetNumberOfCarrier(int32_t *count);
 
 // ---- SIM ----
 
-/// The state of the SIM: 0 invalid, 1 valid, 240 a card for roaming (a CDMA device without a card
-/// of its own), 255 no card.
+/// States of the SIM.
+enum VELT_SIM_STATUS
+{
+    VELT_SIM_INVALID = 0,
+    VELT_SIM_VALID = 1,
+    VELT_SIM_ROAMING = 240, ///< a card for roaming: a CDMA device without a card of its own
+    VELT_SIM_NONE = 255     ///< no card
+};
+
+/// The state of the SIM, see VELT_SIM_STATUS.
 VELT_API VELT_ERROR VELT_DevSrv_GetSimStatus(int32_t *status);
 
 /// PIN states, VELT_DevSrv_GetPinStatus().

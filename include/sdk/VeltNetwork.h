@@ -9,22 +9,64 @@
 
 #include "VeltTypes.h"
 
-/// The current operator and how it was chosen: \a mode is 0 for automatic and 1 for manual
-/// selection, as in +COPS (3GPP TS 27.007), and -1 where the device tells the operator only.
+/// How the operator was chosen, as in +COPS (3GPP TS 27.007).
+enum VELT_SELECTION_MODE
+{
+    VELT_SELECTION_AUTOMATIC = 0,
+    VELT_SELECTION_MANUAL = 1
+};
+
+/// Access technologies, VELT_OPERATOR: the AcT of +COPS (3GPP TS 27.007), which has others too.
+enum VELT_ACCESS_TECHNOLOGY
+{
+    VELT_ACCESS_GSM = 0,
+    VELT_ACCESS_UTRAN = 2,
+    VELT_ACCESS_E_UTRAN = 7
+};
+
+/// The current operator and how it was chosen. \a mode is one of VELT_SELECTION_MODE, and -1 where
+/// the device tells the operator only.
 VELT_API VELT_ERROR VELT_NetSrv_GetCurPlmn(int32_t *mode, VELT_OPERATOR *plmn);
 
-/// The circuit-switched registration. The location fields are filled while the report mode is 2 and
-/// empty otherwise.
+/// States of a registration, VELT_REG_STATE: those of +CREG and +CGREG (3GPP TS 27.007).
+enum VELT_REGISTRATION
+{
+    VELT_REG_NOT_REGISTERED = 0,
+    VELT_REG_HOME = 1,
+    VELT_REG_SEARCHING = 2,
+    VELT_REG_DENIED = 3,
+    VELT_REG_UNKNOWN = 4,
+    VELT_REG_ROAMING = 5
+};
+
+/// What the device reports of a registration, VELT_REG_STATE: the n of +CREG (3GPP TS 27.007).
+enum VELT_REG_REPORT_MODE
+{
+    VELT_REG_REPORT_NONE = 0,
+    VELT_REG_REPORT_STATE = 1,
+    VELT_REG_REPORT_LOCATION = 2 ///< state and location
+};
+
+/// The circuit-switched registration. The location fields are filled while the report mode is
+/// VELT_REG_REPORT_LOCATION and empty otherwise.
 VELT_API VELT_ERROR VELT_NetSrv_GetCSRegState(VELT_REG_STATE *state);
 
 /// The packet-switched registration, under the same rules.
 VELT_API VELT_ERROR VELT_NetSrv_GetPSRegState(VELT_REG_STATE *state);
 
-/// Sets the report mode of the circuit-switched registration: 0 none, 1 state, 2 state and
-/// location. The device keeps it.
+/// Sets the report mode of the circuit-switched registration, see VELT_REG_REPORT_MODE. The device
+/// keeps it.
 VELT_API VELT_ERROR VELT_NetSrv_SetCSRegReport(int32_t mode);
 
-/// The packet attachment: 0 detached, 1 attached, 255 not known.
+/// States of the packet attachment.
+enum VELT_PS_ATTACHMENT
+{
+    VELT_PS_DETACHED = 0,
+    VELT_PS_ATTACHED = 1,
+    VELT_PS_UNKNOWN = 255
+};
+
+/// The packet attachment, see VELT_PS_ATTACHMENT.
 VELT_API VELT_ERROR VELT_NetSrv_GetPSState(int32_t *state);
 
 /// The readings of +CSQ (3GPP TS 27.007): first the RSSI (0 to 31, on TD-SCDMA devices 0 to 91, 99

@@ -10,8 +10,7 @@
 /// - None blocks: a modem that does not answer gives a result code.
 /// - All memory belongs to the caller. Out-parameters must not be null.
 /// - Texts are single-byte (Latin-1) and end at the first zero byte. A text that fills its buffer
-/// or
-///   field has none, so a caller that needs it must add room for it. Text buffers have the sizes
+///   or field has none, so a caller that needs it must add room for it. Text buffers have the sizes
 ///   given by the VELT_SIZE_ constants; the functions cannot check them.
 /// - Any thread may call any function, a callback included.
 
@@ -21,13 +20,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(_WIN32)
-#define VELT_DECL_EXPORT __declspec(dllexport)
-#define VELT_DECL_IMPORT __declspec(dllimport)
-#else
 #define VELT_DECL_EXPORT __attribute__((visibility("default")))
 #define VELT_DECL_IMPORT
-#endif
 
 /// Marks the functions that libsdk exports.
 #ifdef SDK_LIBRARY
@@ -103,12 +97,11 @@ struct VELT_SIGNAL_PAIR
 static_assert(offsetof(VELT_SIGNAL_PAIR, second) == 2, "second reading at byte 2");
 static_assert(sizeof(VELT_SIGNAL_PAIR) == 4, "signal pair of 4 bytes");
 
-/// Registration with a network, VELT_NetSrv_GetCSRegState() and VELT_NetSrv_GetPSRegState();
-/// the values are those of +CREG and +CGREG in 3GPP TS 27.007.
+/// Registration with a network, VELT_NetSrv_GetCSRegState() and VELT_NetSrv_GetPSRegState().
 struct VELT_REG_STATE
 {
-    int32_t reportMode; ///< the n of +CREG: 2 reports the location too
-    int32_t state;      ///< 0 not registered, 1 home, 2 searching, 3 denied, 4 unknown, 5 roaming
+    int32_t reportMode; ///< see VELT_REG_REPORT_MODE
+    int32_t state;      ///< see VELT_REGISTRATION
     char lac[16];       ///< location area code, as the device writes it
     char cellId[16];    ///< cell ID, as the device writes it
 };
@@ -123,7 +116,7 @@ struct VELT_OPERATOR
     char longName[64];
     char shortName[16];
     char code[8];             ///< MCC and MNC, 5 or 6 digits
-    uint8_t accessTechnology; ///< the AcT of +COPS in 3GPP TS 27.007: 0 GSM, 2 UTRAN, 7 E-UTRAN
+    uint8_t accessTechnology; ///< see VELT_ACCESS_TECHNOLOGY
     uint8_t reserved[7];
 };
 static_assert(offsetof(VELT_OPERATOR, accessTechnology) == 88, "access technology at byte 88");

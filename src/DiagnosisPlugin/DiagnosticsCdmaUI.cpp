@@ -4,44 +4,35 @@
 #include "DiagnosticsCdmaUI.h"
 
 #include "DiagnosticsConfigParse.h"
-#include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsReportFile.h"
+#include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
-#include "DiagnosticsToolkit.h"
+#include "DiagnosticsSaveDialogs.h"
+#include "DiagnosticsText.h"
 #include "DiagnosticsUILogic.h"
+#include "DiagnosticsWindow.h"
 
-#include "core/Change.h"
 #include "core/CommonUtils.h"
 #include "core/ExtendDialog.h"
 
-#include <QFile>
 #include <QFormLayout>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QTextStream>
 #include <QVBoxLayout>
 
 #include <new>
+
+using namespace DiagnosticsResult;
 
 namespace {
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsCdmaUI";
 
-enum
-{
-    Success = 0,
-    CannotOpen = 3,
-    Missing = 13
-};
-
-const int PlainFrame = 1; // the host frame's widget type
-const int CaptionWidth = 185;
 const int FrameWidth = 356;
 const int FrameHeightPerRow = 35;
-const int SimStorage = 1;
-const int DeviceStorage = 2;
 
 const char SimMessagesKey[] = "IDS_MAINFRM_SIM_MESSAGE_CONTENT_PROMPT";
 const char SimContactsKey[] = "IDS_MAINFRM_SIM_CONTACT_CONTENT";
@@ -55,7 +46,6 @@ const char PrlKey[] = "IDS_DIAGNOSE_PRL_VER";
 const char CarriersKey[] = "IDS_NUM_CARRIERS_PROMPT";
 const char EsnKey[] = "IDS_MAINFRM_ESN";
 const char MeidKey[] = "IDS_DIAGNOSE_MEID";
-const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
 
 /// What the key of a row asks the query layer.
 struct ValueRow
@@ -129,13 +119,7 @@ DiagnosticsCdmaUI::~DiagnosticsCdmaUI()
 
 QString DiagnosticsCdmaUI::tr(QString key)
 {
-    return Change::tr(key, QLatin1String("DiagnosisPlugin"));
-}
-
-/// The configured value; empty where there is none.
-QString DiagnosticsCdmaUI::setting(const char *key) const
-{
-    return m_pHashSetting ? m_pHashSetting->value(QLatin1String(key)) : QString();
+    return DiagnosticsText::of(key);
 }
 
 // ---- The window ----
@@ -162,9 +146,7 @@ bool DiagnosticsCdmaUI::ShowCdmaDiagWidget(QWidget *parent)
     m_pdialogCdmaDiagnostics->changeSize(m_pwidgetCdmaDiagnostic->sizeHint());
     m_pdialogCdmaDiagnostics->setWindowModality(Qt::WindowModal);
     m_pdialogCdmaDiagnostics->setWindowTitle(tr(QLatin1String("IDS_PLUGIN_NAME")));
-    m_pdialogCdmaDiagnostics->setVisible(true);
-    CommonUtils::MoveCentre(m_pdialogCdmaDiagnostics);
-    m_pdialogCdmaDiagnostics->setAttribute(Qt::WA_DeleteOnClose);
+    DiagnosticsWindow::show(m_pdialogCdmaDiagnostics);
     qDebug("%s: %s: %s: Creation of dialog is successful", LOG_AT);
     return true;
 }
@@ -202,8 +184,7 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
         qDebug("%s: %s: %s: Config instance is null", LOG_AT);
         return Missing;
     }
-    m_pdialogCdmaDiagnostics =
-        new (std::nothrow) ExtendDialog(parent, Qt::WindowCloseButtonHint, PlainFrame);
+    m_pdialogCdmaDiagnostics = DiagnosticsWindow::createFrame(parent);
     if (!m_pdialogCdmaDiagnostics) {
         qDebug("%s: %s: %s: Memory Allocation Failed for main dialog", LOG_AT);
         return Missing;
@@ -258,7 +239,7 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
     m_pframeCdmaDiag->setFixedHeight(m_iRowCount * FrameHeightPerRow);
     m_pframeCdmaDiag->setFixedWidth(FrameWidth);
 
-    if (setting("SaveButton") == QLatin1String("true")) {
+    if (DiagnosticsWindow::hasSaveButton(m_pHashSetting)) {
         m_ppushButtonCdmaSave = new (std::nothrow) QPushButton(m_pframeCdmaDiag);
         if (!m_ppushButtonCdmaSave) {
             qDebug("%s: %s: %s: Creation of Save Button Failed", LOG_AT);
@@ -267,28 +248,19 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
         m_ppushButtonCdmaSave->setObjectName(
             QLatin1String("DiagnosticsUIPlugin_pushButtonCdmaSave"));
         qDebug("%s: %s: %s: bSetVisible is false", LOG_AT);
-        m_ppushButtonCdmaSave->setText(tr(QLatin1String("IDS_MAINFRM_SAVE_PROMPT")));
-        connect(m_ppushButtonCdmaSave, SIGNAL(clicked()), this, SLOT(onSaveClicked()));
+        DiagnosticsWindow::setUpButton(m_ppushButtonCdmaSave, "IDS_MAINFRM_SAVE_PROMPT", this,
+                                       SLOT(onSaveClicked()));
     }
-    m_ppushButtonCdmaRefresh->setText(tr(QLatin1String("IDS_MAINFRM_REFRESH_PROMPT")));
-    connect(m_ppushButtonCdmaRefresh, SIGNAL(clicked()), this, SLOT(onRefreshClicked()));
-    m_ppushButtonCdmaCancel->setText(tr(QLatin1String("IDS_MAINFRM_CANCEL_PROMPT")));
-    connect(m_ppushButtonCdmaCancel, SIGNAL(clicked()), this, SLOT(onCancelClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonCdmaRefresh, "IDS_MAINFRM_REFRESH_PROMPT", this,
+                                   SLOT(onRefreshClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonCdmaCancel, "IDS_MAINFRM_CANCEL_PROMPT", this,
+                                   SLOT(onCancelClicked()));
     connect(m_pdialogCdmaDiagnostics, SIGNAL(dlgCloseEvent()), this, SLOT(onDlgClose()));
 
     const int buttonSpacing = 5;
-    m_phboxLayoutCdmaBottom->setSpacing(0); // the style's own would add to it
-    m_phboxLayoutCdmaBottom->addWidget(
-        m_ppushButtonCdmaSave); // the toolkit passes over a missing one
-    m_phboxLayoutCdmaBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutCdmaBottom->addWidget(m_ppushButtonCdmaRefresh);
-    m_phboxLayoutCdmaBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutCdmaBottom->addWidget(m_ppushButtonCdmaCancel);
-    m_phboxLayoutCdmaBottom->setAlignment(Qt::AlignRight);
-    // With the Tab key as they stand, not as they were made.
-    if (m_ppushButtonCdmaSave)
-        QWidget::setTabOrder(m_ppushButtonCdmaSave, m_ppushButtonCdmaRefresh);
-    QWidget::setTabOrder(m_ppushButtonCdmaRefresh, m_ppushButtonCdmaCancel);
+    DiagnosticsWindow::layOutButtons(m_phboxLayoutCdmaBottom, m_ppushButtonCdmaSave,
+                                     m_ppushButtonCdmaRefresh, m_ppushButtonCdmaCancel,
+                                     buttonSpacing);
     return Success;
 }
 
@@ -316,12 +288,11 @@ int DiagnosticsCdmaUI::createCdmaLabels()
             result = Missing;
             break;
         }
-        caption->setText(tr(key));
+        DiagnosticsRow::setUp(caption, value, key, tr(key));
         int textWidth = 0;
         int rowHeight = 0;
         CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
-        caption->setMinimumSize(CaptionWidth, rowHeight);
-        DiagnosticsRow::setUp(caption, value, key);
+        caption->setMinimumSize(DiagnosticsRow::CaptionWidth, rowHeight);
         value->setText(getLabelValuebyName(key));
         value->setFixedHeight(rowHeight);
         layout->addRow(caption, value);
@@ -351,7 +322,8 @@ int DiagnosticsCdmaUI::populateList()
     if (!m_pLogic->GetPrlVersion().isEmpty())
         add(PrlKey);
     // Looser than the test of the Save button's setting.
-    if (setting("Carriers").contains(QLatin1String("true"), Qt::CaseInsensitive))
+    if (m_pHashSetting && m_pHashSetting->value(QLatin1String("Carriers"))
+                              .contains(QLatin1String("true"), Qt::CaseInsensitive))
         add(CarriersKey);
     add(EsnKey);
     if (m_pLogic->IsPesn()) {
@@ -365,11 +337,11 @@ QString DiagnosticsCdmaUI::getLabelValue(QString key)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return tr(QLatin1String(UnknownKey));
+        return DiagnosticsText::unknown();
     if (key == QLatin1String(SimMessagesKey))
-        return m_pLogic->GetMessageCount(SimStorage);
+        return m_pLogic->GetMessageCount(DiagnosticsUILogic::SimStorage);
     if (key == QLatin1String(DeviceMessagesKey))
-        return m_pLogic->GetMessageCount(DeviceStorage);
+        return m_pLogic->GetMessageCount(DiagnosticsUILogic::DeviceStorage);
     if (key == QLatin1String(CarriersKey)) {
         const QString count = m_pLogic->GetMulticarrier();
         return count.isEmpty() ? tr(QLatin1String("IDS_CARRIERS_NUM_NA")) : count;
@@ -378,14 +350,14 @@ QString DiagnosticsCdmaUI::getLabelValue(QString key)
         if (key == QLatin1String(row.key))
             return (m_pLogic->*row.get)();
     }
-    return tr(QLatin1String(UnknownKey));
+    return DiagnosticsText::unknown();
 }
 
 QString DiagnosticsCdmaUI::getLabelValuebyName(QString key)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     const QString value = getLabelValue(key);
-    return value.isEmpty() ? tr(QLatin1String(UnknownKey)) : value;
+    return value.isEmpty() ? DiagnosticsText::unknown() : value;
 }
 
 void DiagnosticsCdmaUI::changeSimString()
@@ -394,9 +366,9 @@ void DiagnosticsCdmaUI::changeSimString()
     for (const char *key : {SimMessagesKey, SimContactsKey})
         DiagnosticsRow::replaceSimWording(m_pwidgetCdmaDiagnostic, QLatin1String(key),
                                           QLatin1String("UIM"));
-    QLabel *esn = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, QLatin1String(EsnKey));
-    if (m_bPesn && esn)
-        esn->setText(tr(QLatin1String("IDS_MAINFRM_PESN")));
+    if (m_bPesn)
+        DiagnosticsRow::setCaption(m_pwidgetCdmaDiagnostic, QLatin1String(EsnKey),
+                                   tr(QLatin1String("IDS_MAINFRM_PESN")));
 }
 
 void DiagnosticsCdmaUI::onRefreshClicked()
@@ -407,9 +379,12 @@ void DiagnosticsCdmaUI::onRefreshClicked()
         return;
     }
     for (const QString &key : *m_plistCdma) {
-        QLabel *value = DiagnosticsRow::value(m_pwidgetCdmaDiagnostic, key);
-        if (value)
-            value->setText(getLabelValuebyName(key));
+        const QPointer<QLabel> label = DiagnosticsRow::value(m_pwidgetCdmaDiagnostic, key);
+        if (!label)
+            continue;
+        const QString value = getLabelValuebyName(key);
+        if (label) // the host may have closed the window meanwhile
+            label->setText(value);
     }
 }
 
@@ -419,9 +394,9 @@ void DiagnosticsCdmaUI::onSaveClicked()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     const QPointer<DiagnosticsCdmaUI> alive(this); // the host may destroy it meanwhile
-    const QString path = DiagnosticsExport::askPath(m_pwidgetCdmaDiagnostic);
+    const QString path = DiagnosticsSaveDialogs::askPath(m_pwidgetCdmaDiagnostic);
     if (alive && !path.isNull() && saveFile(path) != Success)
-        DiagnosticsExport::showFailure(m_pwidgetCdmaDiagnostic);
+        DiagnosticsSaveDialogs::showFailure(m_pwidgetCdmaDiagnostic);
 }
 
 int DiagnosticsCdmaUI::saveFile(QString fileName)
@@ -431,23 +406,21 @@ int DiagnosticsCdmaUI::saveFile(QString fileName)
         qDebug("%s: %s: %s: m_plistCdma/ m_pdialogCdmaDiagnostics is null", LOG_AT);
         return Missing;
     }
-    QFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    DiagnosticsReportFile file(fileName);
+    if (!file.open()) {
         qDebug("%s: %s: %s: Error in opening file", LOG_AT);
         return CannotOpen;
     }
-    {
-        QTextStream stream(&file);
-        setUtf8(stream);
-        for (const QString &key : *m_plistCdma) {
-            const QString value = getLabelValuebyName(key);
-            const QLabel *caption = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, key);
-            if (caption)
-                stream << caption->text() << " " << value << endLine << endLine;
-        }
-        file.close();
+    for (const QString &key : *m_plistCdma) {
+        const QString value = getLabelValuebyName(key);
+        const QLabel *caption = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, key);
+        if (!caption)
+            continue;
+        file.writeRow(caption->text(), value);
+        file.writeLine();
     }
+    file.close();
     qDebug("%s: %s: %s: file writing success", LOG_AT);
-    DiagnosticsExport::showSuccess(m_pwidgetCdmaDiagnostic);
+    DiagnosticsSaveDialogs::showSuccess(m_pwidgetCdmaDiagnostic);
     return Success;
 }

@@ -63,8 +63,6 @@ private:
     void changeSimString();
     int saveFile(QString fileName);
 
-    QString setting(const char *key) const;
-
     static DiagnosticsCdmaUI *m_pDiagCDMAInstance;
 
     DiagnosticsUILogic *m_pLogic;

@@ -4,13 +4,18 @@
 #include "DiagnosticsConfigParse.h"
 
 #include "DiagnosticsLog.h"
+#include "DiagnosticsResult.h"
+#include "DiagnosticsSdkText.h"
 
 #include "core/CommonUtils.h"
 #include "sdk/VeltDevice.h"
 
 #include <QFile>
+#include <QXmlStreamReader>
 
 #include <new>
+
+using namespace DiagnosticsResult;
 
 namespace {
 
@@ -29,12 +34,6 @@ const char NameAttribute[] = "name";
 const char ValueAttribute[] = "value";
 const char ShowAttribute[] = "show";
 const char ResourceAttribute[] = "resourceID";
-
-enum
-{
-    Success = 0,
-    CannotLoad = 3
-};
 
 bool isNamed(const QCoreXmlStreamReader &reader, const char *element)
 {
@@ -108,16 +107,16 @@ unsigned int DiagnosticsConfigParse::LoadFile(QString fileName)
     QFile file(path);
     if (!file.exists()) {
         qDebug("%s: %s: %s: called", LOG_AT);
-        return CannotLoad;
+        return CannotOpen;
     }
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         qDebug("%s: %s: %s: Error open file:%s", LOG_AT, path.toLocal8Bit().constData());
-        return CannotLoad;
+        return CannotOpen;
     }
     QCoreXmlStreamReader reader(&file);
     const bool complete = readFile(reader);
     file.close();
-    return complete ? Success : CannotLoad;
+    return complete ? Success : CannotOpen;
 }
 
 QList<TabDetails> *DiagnosticsConfigParse::GetTabInformation()
@@ -212,8 +211,9 @@ void DiagnosticsConfigParse::populateHash(QCoreXmlStreamReader &reader)
             return;
         m_strCustomizeActive = QLatin1String("false");
         m_strValue = reader.readElementText();
-        if (m_pHashCustomization && !reader.hasError())
-            m_pHashCustomization->insert(reader.name().toString(), m_strValue);
+        // After an error the reader may stand on another element, or on none.
+        if (m_pHashCustomization && isNamed(reader, SimPromptElement))
+            m_pHashCustomization->insert(QLatin1String(SimPromptElement), m_strValue);
     }
 }
 
@@ -241,12 +241,12 @@ void DiagnosticsConfigParse::readTabInfo(QCoreXmlStreamReader &reader)
 
 QString DiagnosticsConfigParse::getCustomizeName()
 {
-    char name[VELT_SIZE_CUSTOMIZE_NAME + 1] = ""; // a name may fill the buffer without a zero
-    qDebug("=======> %s: %s: %s: Calling VELT_DevSrv_getCustomizeName: %s", LOG_AT, name);
-    const VELT_ERROR result = VELT_DevSrv_GetCustomizeName(name);
+    SdkText<VELT_SIZE_CUSTOMIZE_NAME> name;
+    qDebug("=======> %s: %s: %s: Calling VELT_DevSrv_getCustomizeName: %s", LOG_AT, name.text());
+    const VELT_ERROR result = VELT_DevSrv_GetCustomizeName(name.buffer());
     qDebug("=======> %s: %s: %s: VELT_DevSrv_getCustomizeName returned %li", LOG_AT, result);
     if (result != VELT_SUCCESS)
         return QString();
-    qDebug("=======> %s: %s: %s: VELT_DevSrv_getCustomizeName success: %s", LOG_AT, name);
-    return QString::fromLatin1(name);
+    qDebug("=======> %s: %s: %s: VELT_DevSrv_getCustomizeName success: %s", LOG_AT, name.text());
+    return name.toString();
 }

@@ -18,9 +18,21 @@ QString valueName(const QString &rowName)
     return captionName(rowName) + QLatin1String("Value");
 }
 
+/// Sets a caption's text, and its buddy, which tells assistive technology what the value is of. A
+/// caption with a buddy takes an ampersand for the mark of a shortcut, so a text with one has none;
+/// the buddy goes first, since a shortcut that is there stays.
+void setText(QLabel *caption, QLabel *value, const QString &text)
+{
+    caption->setBuddy(nullptr);
+    caption->setText(text);
+    if (!text.contains(QLatin1Char('&')))
+        caption->setBuddy(value);
+}
+
 } // namespace
 
-void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowName)
+void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowName,
+                           const QString &text)
 {
     // Beside each other in a window from right to left too: by themselves, labels turn a text in
     // Latin letters to the left there.
@@ -29,10 +41,7 @@ void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowNam
                             QStyle::visualAlignment(label->layoutDirection(), label->alignment()));
     caption->setObjectName(captionName(rowName));
     value->setObjectName(valueName(rowName));
-    // Tells assistive technology what the value is of. A caption with a buddy shows no '&', but
-    // takes the letter behind it for a shortcut.
-    if (!caption->text().contains(QLatin1Char('&')))
-        caption->setBuddy(value);
+    setText(caption, value, text);
     // A text from the air must not be read as markup.
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -40,18 +49,25 @@ void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowNam
 
 QLabel *DiagnosticsRow::caption(const QWidget *below, const QString &rowName)
 {
-    return below->findChild<QLabel *>(captionName(rowName));
+    return below ? below->findChild<QLabel *>(captionName(rowName)) : nullptr;
 }
 
 QLabel *DiagnosticsRow::value(const QWidget *below, const QString &rowName)
 {
-    return below->findChild<QLabel *>(valueName(rowName));
+    return below ? below->findChild<QLabel *>(valueName(rowName)) : nullptr;
+}
+
+void DiagnosticsRow::setCaption(const QWidget *below, const QString &rowName, const QString &text)
+{
+    QLabel *label = caption(below, rowName);
+    if (label)
+        setText(label, value(below, rowName), text);
 }
 
 void DiagnosticsRow::replaceSimWording(const QWidget *below, const QString &rowName,
                                        const QString &wording)
 {
-    QLabel *label = caption(below, rowName);
+    const QLabel *label = caption(below, rowName);
     if (label)
-        label->setText(label->text().replace(QLatin1String("SIM/USIM"), wording));
+        setCaption(below, rowName, label->text().replace(QLatin1String("SIM/USIM"), wording));
 }

@@ -14,12 +14,21 @@ class QWidget;
 class DiagnosticsRow
 {
 public:
-    /// Names the two labels after the row and prepares the value for texts that are not ours.
-    static void setUp(QLabel *caption, QLabel *value, const QString &rowName);
+    enum
+    {
+        CaptionWidth = 185 ///< in pixels
+    };
 
-    /// The labels of a row below a widget; null where there is none.
+    /// Names the two labels after the row, gives the caption its text and prepares the value for
+    /// texts from outside.
+    static void setUp(QLabel *caption, QLabel *value, const QString &rowName, const QString &text);
+
+    /// The labels of a row below a widget, which may be null; null where there is none.
     static QLabel *caption(const QWidget *below, const QString &rowName);
     static QLabel *value(const QWidget *below, const QString &rowName);
+
+    /// Changes the caption of a row, if there is such a row.
+    static void setCaption(const QWidget *below, const QString &rowName, const QString &text);
 
     /// Puts another wording in place of "SIM/USIM" in the caption of a row, if there is such a row.
     static void replaceSimWording(const QWidget *below, const QString &rowName,

@@ -1,24 +1,28 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-/// All that differs between the versions of the toolkit that the plug-in compiles with: 4.8, 5
-/// and 6. No other file of the plug-in has a condition on the version.
+/// All that differs between the versions of Qt that the plug-in compiles with: 4.8, 5 and 6. No
+/// other file of the plug-in has a condition on the version.
 
 #ifndef DIAGNOSTICSTOOLKIT_H
 #define DIAGNOSTICSTOOLKIT_H
 
-#include <QTextStream>
-#include <QXmlStreamReader>
+#include <QStringList>
 #include <QtPlugin>
 
 #if QT_VERSION >= 0x060000
 #include <QStringConverter>
 #endif
 
+QT_BEGIN_NAMESPACE
+class QXmlStreamReader;
+QT_END_NAMESPACE
+
 typedef QXmlStreamReader QCoreXmlStreamReader;
 
-// The export of the plug-in: in the class, and behind it in one source file. It must stand between
-// two of the toolkit's own macros, because the Qt 4 moc does not expand it and has to pass over it.
+// The export of the plug-in: in the class, and behind it in one source file. In the class it must
+// stand between two macros of Qt's own, because the moc of Qt 4 does not expand it and has to pass
+// over it.
 #if QT_VERSION >= 0x050000
 #define DIAGNOSTICS_PLUGIN_METADATA Q_PLUGIN_METADATA(IID "com.velt.DiagnosisPlugin")
 #define DIAGNOSTICS_EXPORT_PLUGIN(name, className)                                                 \
@@ -35,7 +39,10 @@ typedef QXmlStreamReader QCoreXmlStreamReader;
 #define DIAGNOSTICS_EXPORT_PLUGIN(name, className) Q_EXPORT_PLUGIN2(name, className)
 #endif
 
-inline void setUtf8(QTextStream &stream)
+// Templates, so that whoever needs only the macros includes neither streams nor widgets.
+
+template <typename TextStream>
+void setUtf8(TextStream &stream)
 {
 #if QT_VERSION >= 0x060000
     stream.setEncoding(QStringConverter::Utf8);
@@ -44,13 +51,14 @@ inline void setUtf8(QTextStream &stream)
 #endif
 }
 
-/// Ends the line and flushes the stream.
-inline QTextStream &endLine(QTextStream &stream)
+/// Lets a file dialog offer local files only. Qt 4 knows no others.
+template <typename FileDialog>
+void offerLocalFiles(FileDialog &dialog)
 {
-#if QT_VERSION >= 0x050e00
-    return Qt::endl(stream);
+#if QT_VERSION >= 0x050600
+    dialog.setSupportedSchemes(QStringList(QLatin1String("file")));
 #else
-    return endl(stream);
+    Q_UNUSED(dialog)
 #endif
 }
 

@@ -5,6 +5,8 @@
 
 #include "DiagnosticsConfigParse.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsSdkText.h"
+#include "DiagnosticsText.h"
 
 #include "core/CommonUtils.h"
 #include "core/Startup.h"
@@ -16,7 +18,6 @@
 #include "sdk/VeltPhonebook.h"
 #include "sdk/VeltSms.h"
 
-#include <cstring>
 #include <memory>
 #include <new>
 
@@ -24,24 +25,7 @@ namespace {
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUILogic";
 
-const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
-
-/// A text buffer of the SDK, or a copy of a text field: zeroed, and with room for the zero that a
-/// text filling all of its bytes lacks. Texts of the SDK are Latin-1.
-template <std::size_t size>
-class SdkText
-{
-public:
-    SdkText() : m_text() {}
-    explicit SdkText(const char (&field)[size]) : m_text() { std::memcpy(m_text, field, size); }
-
-    char *buffer() { return m_text; }
-    const char *text() const { return m_text; }
-    QString toString() const { return QString::fromLatin1(m_text); }
-
-private:
-    char m_text[size + 1];
-};
+using DiagnosticsText::UnknownKey;
 
 struct CodeText
 {
@@ -62,12 +46,12 @@ QString textOf(const CodeText (&table)[size], int code, const char *other)
 
 // clang-format off
 const CodeText RegistrationStates[] = {
-    {0, "IDS_LANG_NOT_REGISTERED"},
-    {1, "IDS_LANG_REGISTERED"},
-    {2, "IDS_LANG_REGISTERING"},
-    {3, "IDS_LANG_REG_DENIED"},
-    {4, UnknownKey},
-    {5, "IDS_LANG_ROAMING"},
+    {VELT_REG_NOT_REGISTERED, "IDS_LANG_NOT_REGISTERED"},
+    {VELT_REG_HOME,           "IDS_LANG_REGISTERED"},
+    {VELT_REG_SEARCHING,      "IDS_LANG_REGISTERING"},
+    {VELT_REG_DENIED,         "IDS_LANG_REG_DENIED"},
+    {VELT_REG_UNKNOWN,        UnknownKey},
+    {VELT_REG_ROAMING,        "IDS_LANG_ROAMING"},
 };
 
 const CodeText DeviceTypes[] = {
@@ -77,14 +61,14 @@ const CodeText DeviceTypes[] = {
 };
 
 const CodeText SelectionModes[] = {
-    {0, "IDS_LANG_AUTOMATIC"},
-    {1, "IDS_LANG_MANUAL"},
+    {VELT_SELECTION_AUTOMATIC, "IDS_LANG_AUTOMATIC"},
+    {VELT_SELECTION_MANUAL,    "IDS_LANG_MANUAL"},
 };
 
 const CodeText PsAttachments[] = {
-    {0,   "IDS_LANG_NOT_ATTACHED"},
-    {1,   "IDS_LANG_ATTACHED"},
-    {255, UnknownKey},
+    {VELT_PS_DETACHED, "IDS_LANG_NOT_ATTACHED"},
+    {VELT_PS_ATTACHED, "IDS_LANG_ATTACHED"},
+    {VELT_PS_UNKNOWN,  UnknownKey},
 };
 
 const CodeText PinStates[] = {
@@ -138,12 +122,11 @@ QString esnField(const char *function, char (VELT_ESN_INFO::*field)[size])
     return text.toString();
 }
 
-/// Cell ID and location area code: only report mode 2 has them, so the device is put into that mode
-/// between two calls. It stays in it.
+/// Cell ID or location area code. The device reports them in one report mode only, so it is put
+/// into that mode between two calls, and stays in it.
 template <std::size_t size>
 QString locationField(const char *function, char (VELT_REG_STATE::*field)[size])
 {
-    const int32_t stateAndLocation = 2;
     qDebug("%s: %s: %s: called", LOG_AS(function));
     VELT_REG_STATE state = VELT_REG_STATE();
     qDebug("=======> %s: %s: %s: calling VELT_NetSrv_GetCSRegState(%d)", LOG_AS(function),
@@ -153,8 +136,8 @@ QString locationField(const char *function, char (VELT_REG_STATE::*field)[size])
            state.reportMode, result);
     if (result != VELT_SUCCESS)
         return QString();
-    if (state.reportMode != stateAndLocation)
-        VELT_NetSrv_SetCSRegReport(stateAndLocation);
+    if (state.reportMode != VELT_REG_REPORT_LOCATION)
+        VELT_NetSrv_SetCSRegReport(VELT_REG_REPORT_LOCATION);
     qDebug("=======> %s: %s: %s: calling VELT_NetSrv_GetCSRegState(%s)", LOG_AS(function),
            SdkText<size>(state.*field).text());
     result = VELT_NetSrv_GetCSRegState(&state);
@@ -225,6 +208,8 @@ Interface *hostPlugin(const char *function, const char *classIdentifier, int plu
 
 DiagnosticsUILogic *DiagnosticsUILogic::_Instance = nullptr;
 int DiagnosticsUILogic::m_iInstanceCount = 0;
+const int DiagnosticsUILogic::SimStorage = VELT_SMS_SIM;
+const int DiagnosticsUILogic::DeviceStorage = VELT_SMS_DEVICE;
 
 DiagnosticsUILogic::DiagnosticsUILogic() : QObject(nullptr), m_pConfigParse(nullptr)
 {
@@ -523,7 +508,6 @@ QString DiagnosticsUILogic::GetNetworkType()
 
 QString DiagnosticsUILogic::getNetwork()
 {
-    const uint8_t utran = 2;
     qDebug("%s: %s: %s: called", LOG_AT);
     int32_t mode = -1;
     VELT_OPERATOR plmn = VELT_OPERATOR();
@@ -532,7 +516,7 @@ QString DiagnosticsUILogic::getNetwork()
     qDebug("<======= %s: %s: %s: VELT_NetSrv_GetCurPlmn() returned %li:", LOG_AT, result);
     if (result != VELT_SUCCESS)
         return QString();
-    return QLatin1String(plmn.accessTechnology == utran ? "3G" : "UNKNOWN");
+    return QLatin1String(plmn.accessTechnology == VELT_ACCESS_UTRAN ? "3G" : "UNKNOWN");
 }
 
 QString DiagnosticsUILogic::GetSelectionMode()
@@ -581,7 +565,7 @@ QString DiagnosticsUILogic::GetPsRegister()
 QString DiagnosticsUILogic::GetPsAttachment()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
-    int32_t state = 255;
+    int32_t state = VELT_PS_UNKNOWN;
     qDebug("=======> %s: %s: %s: calling VELT_NetSrv_GetPSState(%d):", LOG_AT, state);
     const VELT_ERROR result = VELT_NetSrv_GetPSState(&state);
     qDebug("<======== %s: %s: %s: VELT_NetSrv_GetPSState(%d) returned %li:", LOG_AT, state, result);
@@ -680,15 +664,14 @@ QString DiagnosticsUILogic::GetLACCode()
 
 QString DiagnosticsUILogic::GetSimStatus()
 {
-    const int32_t roaming = 240;
     qDebug("%s: %s: %s: called", LOG_AT);
-    int32_t status = 255;
+    int32_t status = VELT_SIM_NONE;
     qDebug("========> %s: %s: %s: calling VELT_DevSrv_GetSimStatus(%d)", LOG_AT, status);
     const VELT_ERROR result = VELT_DevSrv_GetSimStatus(&status);
     qDebug("========> %s: %s: %s: VELT_DevSrv_GetSimStatus(%d) returned", LOG_AT, status);
     if (result != VELT_SUCCESS)
         return QString();
-    return QLatin1String(status == roaming ? "Roaming" : "Unknown");
+    return QLatin1String(status == VELT_SIM_ROAMING ? "Roaming" : "Unknown");
 }
 
 QString DiagnosticsUILogic::GetPinStatus()
@@ -761,20 +744,16 @@ QString DiagnosticsUILogic::GetOwnNumber()
 
 QString DiagnosticsUILogic::GetSMSC()
 {
-    const int unitCount = VELT_SIZE_SMS_CENTRE / 2;
     qDebug("%s: %s: %s: called", LOG_AT);
     int32_t length = 0;
-    uint16_t number[unitCount + 1] = {}; // a number may fill the buffer without a zero
-    VELT_ERROR result = VELT_SMSSrv_GetSMSCentreNumber(&length, number, 0);
+    SdkText<VELT_SIZE_SMS_CENTRE / sizeof(uint16_t), uint16_t> number;
+    VELT_ERROR result = VELT_SMSSrv_GetSMSCentreNumber(&length, number.buffer(), 0);
     if (result != VELT_SUCCESS)
         return QString();
     qDebug("=======> %s: %s: %s: Calling VELT_SMSSrv_GetSMSCentreNumber(%d,%d)", LOG_AT, length,
            length);
-    result = VELT_SMSSrv_GetSMSCentreNumber(&length, number, length);
-    int units = 0;
-    while (number[units] != 0)
-        ++units;
-    const QString text(reinterpret_cast<const QChar *>(number), units);
+    result = VELT_SMSSrv_GetSMSCentreNumber(&length, number.buffer(), length);
+    const QString text = number.toString();
     qDebug("<======= %s: %s: %s: VELT_SMSSrv_GetSMSCentreNumber()returned VALUE: %s, "
            "VELT_ERROR = %li:",
            LOG_AT, text.toLocal8Bit().constData(), result);

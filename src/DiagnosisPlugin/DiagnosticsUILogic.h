@@ -24,6 +24,10 @@ class DiagnosticsUILogic : public QObject
     Q_OBJECT
 
 public:
+    // Where messages are stored.
+    static const int SimStorage;
+    static const int DeviceStorage;
+
     static DiagnosticsUILogic *GetInstance();
     static void Destroy();
 
@@ -89,7 +93,7 @@ public:
     /// Counts are "used / capacity".
     QString GetContactCountinSim();
     QString GetContactCountinDevice();
-    /// \a storage is one of VELT_SMS_STORAGE.
+    /// \a storage is SimStorage or DeviceStorage.
     QString GetMessageCount(int storage);
 
     /// Of the current connection profile, through the device name last read.

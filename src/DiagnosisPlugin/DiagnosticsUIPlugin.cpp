@@ -5,25 +5,27 @@
 
 #include "DiagnosticsCdmaUI.h"
 #include "DiagnosticsConfigParse.h"
-#include "DiagnosticsExport.h"
 #include "DiagnosticsLog.h"
+#include "DiagnosticsReportFile.h"
+#include "DiagnosticsResult.h"
 #include "DiagnosticsRow.h"
+#include "DiagnosticsSaveDialogs.h"
+#include "DiagnosticsText.h"
 #include "DiagnosticsUILogic.h"
+#include "DiagnosticsWindow.h"
 
-#include "core/Change.h"
-#include "core/CommonUtils.h"
 #include "core/ExtendDialog.h"
 
-#include <QFile>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTextStream>
 #include <QVBoxLayout>
 
 #include <new>
+
+using namespace DiagnosticsResult;
 
 /// What the configured name of a row asks the query layer.
 struct DiagnosticsUIPlugin::ValueRow
@@ -39,17 +41,6 @@ typedef DiagnosticsUIPlugin::ValueRow ValueRow;
 
 const char LogSource[] = "../../src/DiagnosisPlugin/DiagnosticsUIPlugin";
 
-enum
-{
-    Success = 0,
-    CannotOpen = 3,
-    Missing = 13
-};
-
-const int PlainFrame = 1; // the host frame's widget type
-const int CaptionWidth = 185;
-
-const char UnknownKey[] = "IDS_MAINFRM_UNKNOWN";
 const char SimMessagesItem[] = "Messages in SIM/USIM";
 const char SimContactsItem[] = "Contacts in SIM/USIM";
 
@@ -230,12 +221,7 @@ void DiagnosticsUIPlugin::onButtonCancelClicked()
 
 QString DiagnosticsUIPlugin::tr(QString key)
 {
-    return Change::tr(key, QLatin1String("DiagnosisPlugin"));
-}
-
-QString DiagnosticsUIPlugin::unknownText()
-{
-    return tr(QLatin1String(UnknownKey));
+    return DiagnosticsText::of(key);
 }
 
 int DiagnosticsUIPlugin::DoModal()
@@ -316,9 +302,7 @@ int DiagnosticsUIPlugin::createWcdmaDialog(QWidget *parent)
     m_pdialogDiagnostics->setWindowTitle(tr(QLatin1String("IDS_PLUGIN_NAME")));
     m_pdialogDiagnostics->setWindowModality(Qt::WindowModal);
     m_pdialogDiagnostics->setFixedSize(460, 426);
-    m_pdialogDiagnostics->setVisible(true);
-    CommonUtils::MoveCentre(m_pdialogDiagnostics);
-    m_pdialogDiagnostics->setAttribute(Qt::WA_DeleteOnClose);
+    DiagnosticsWindow::show(m_pdialogDiagnostics);
     return 1;
 }
 
@@ -329,8 +313,7 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
         qDebug("%s: %s: %s: Config instance is null", LOG_AT);
         return Missing;
     }
-    m_pdialogDiagnostics =
-        new (std::nothrow) ExtendDialog(parent, Qt::WindowCloseButtonHint, PlainFrame);
+    m_pdialogDiagnostics = DiagnosticsWindow::createFrame(parent);
     if (!m_pdialogDiagnostics) {
         qDebug("%s: %s: %s: Memory Allocation Failed for main dialog", LOG_AT);
         return Missing;
@@ -363,9 +346,7 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
         return Missing;
     }
 
-    const QHash<QString, QString> *settings = m_pConfigParse->GetSettingInformation();
-    const QString save = settings ? settings->value(QLatin1String("SaveButton")) : QString();
-    if (save == QLatin1String("true")) {
+    if (DiagnosticsWindow::hasSaveButton(m_pConfigParse->GetSettingInformation())) {
         m_ppushButtonSave = new (std::nothrow) QPushButton(m_pwidgetDiagnostic);
         if (!m_ppushButtonSave) {
             qDebug("%s: %s: %s: Creation of Save Button Failed", LOG_AT);
@@ -373,13 +354,13 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
         }
         m_ppushButtonSave->setObjectName(QLatin1String("DiagnosticsUIPlugin_pushButtonSave"));
         qDebug("%s: %s: %s: bSetVisible is false", LOG_AT);
-        m_ppushButtonSave->setText(tr(QLatin1String("IDS_MAINFRM_SAVE_PROMPT")));
-        connect(m_ppushButtonSave, SIGNAL(clicked()), this, SLOT(onButtonSaveClicked()));
+        DiagnosticsWindow::setUpButton(m_ppushButtonSave, "IDS_MAINFRM_SAVE_PROMPT", this,
+                                       SLOT(onButtonSaveClicked()));
     }
-    m_ppushButtonRefresh->setText(tr(QLatin1String("IDS_MAINFRM_REFRESH_PROMPT")));
-    m_ppushButtonCancel->setText(tr(QLatin1String("IDS_MAINFRM_CANCEL_PROMPT")));
-    connect(m_ppushButtonRefresh, SIGNAL(clicked()), this, SLOT(onButtonRefreshClicked()));
-    connect(m_ppushButtonCancel, SIGNAL(clicked()), this, SLOT(onButtonCancelClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonRefresh, "IDS_MAINFRM_REFRESH_PROMPT", this,
+                                   SLOT(onButtonRefreshClicked()));
+    DiagnosticsWindow::setUpButton(m_ppushButtonCancel, "IDS_MAINFRM_CANCEL_PROMPT", this,
+                                   SLOT(onButtonCancelClicked()));
     connect(m_pdialogDiagnostics, SIGNAL(dlgCloseEvent()), this, SLOT(onDlgClose()));
     // Connected after the tabs were added: the first one is filled by its creation.
     connect(m_ptabWidgetDiag, SIGNAL(currentChanged(int)), this, SLOT(onTabChange(int)));
@@ -418,19 +399,9 @@ int DiagnosticsUIPlugin::createLayout()
     m_phboxLayoutTop->addWidget(m_ptabWidgetDiag);
 
     const int buttonSpacing = 26;
-    m_phboxLayoutBottom->setSpacing(0);                // the style's own would add to it
-    m_phboxLayoutBottom->addWidget(m_ppushButtonSave); // the toolkit passes over a missing button
-    m_phboxLayoutBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutBottom->addWidget(m_ppushButtonRefresh);
-    m_phboxLayoutBottom->addSpacing(buttonSpacing);
-    m_phboxLayoutBottom->addWidget(m_ppushButtonCancel);
+    DiagnosticsWindow::layOutButtons(m_phboxLayoutBottom, m_ppushButtonSave, m_ppushButtonRefresh,
+                                     m_ppushButtonCancel, buttonSpacing);
     m_phboxLayoutBottom->setContentsMargins(0, 0, 15, 0);
-    m_phboxLayoutBottom->setAlignment(Qt::AlignRight);
-    // With the Tab key as they stand, not as they were made.
-    if (m_ppushButtonSave)
-        QWidget::setTabOrder(m_ppushButtonSave, m_ppushButtonRefresh);
-    QWidget::setTabOrder(m_ppushButtonRefresh, m_ppushButtonCancel);
-    m_ppushButtonCancel->setFocus(Qt::OtherFocusReason);
     return Success;
 }
 
@@ -474,7 +445,7 @@ int DiagnosticsUIPlugin::dynamicTabCreation()
         }
     }
     onTabChange(0);
-    return result;
+    return m_ptabWidgetDiag ? result : Missing; // the host may have closed the window meanwhile
 }
 
 int DiagnosticsUIPlugin::createTab(TabDetails *tab)
@@ -514,9 +485,8 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
             result = Missing;
             break;
         }
-        caption->setText(tr(item.resourceID));
-        caption->setFixedWidth(CaptionWidth);
-        DiagnosticsRow::setUp(caption, value, item.name);
+        DiagnosticsRow::setUp(caption, value, item.name, tr(item.resourceID));
+        caption->setFixedWidth(DiagnosticsRow::CaptionWidth);
         value->setWordWrap(true);
         layout->addRow(caption, value);
     }
@@ -569,23 +539,25 @@ bool DiagnosticsUIPlugin::isMarkable(int index) const
     return index >= 0 && index < m_iTabFilledCount;
 }
 
-/// Reads the shown rows of a tab into their value labels, to be found below \a labels.
-void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QWidget *labels)
+/// Reads the shown rows of a tab into their value labels, to be found below \a page. The host,
+/// which is asked for some values, may close the window meanwhile.
+void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QPointer<QWidget> page)
 {
-    if (!labels || !tab.items)
+    if (!tab.items)
         return;
     for (const TabItem &item : *tab.items) {
         if (!item.show)
             continue;
-        QLabel *label = DiagnosticsRow::value(labels, item.name);
+        const QPointer<QLabel> label = DiagnosticsRow::value(page, item.name);
         if (!label)
             continue;
         QString value;
         if (m_bDeviceAvailable || isReadWithoutDevice(item.name))
             getValueLabelVal(tab.name, item.name, &value);
         else
-            value = unknownText();
-        label->setText(value);
+            value = DiagnosticsText::unknown();
+        if (label)
+            label->setText(value);
     }
 }
 
@@ -645,14 +617,14 @@ void DiagnosticsUIPlugin::getValueLabelVal(QString tabName, QString itemName, QS
     else if (tabName == QLatin1String("Network status"))
         *value = getNetSetTabItemValue(itemName);
     if (value->isEmpty())
-        *value = unknownText();
+        *value = DiagnosticsText::unknown();
 }
 
 /// What a row of the dispatch says now; null stands for a name that no row has.
 QString DiagnosticsUIPlugin::valueOf(const ValueRow *row)
 {
     if (!row)
-        return unknownText();
+        return DiagnosticsText::unknown();
     const QString value = (m_pLogic->*row->get)();
     return row->translated ? tr(value) : value;
 }
@@ -661,7 +633,7 @@ QString DiagnosticsUIPlugin::getDeviceNetTabItemValue(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
+        return DiagnosticsText::unknown();
     return valueOf(findRow(DeviceRows, itemName));
 }
 
@@ -669,10 +641,10 @@ QString DiagnosticsUIPlugin::getNetSetTabItemValue(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
+        return DiagnosticsText::unknown();
     if (itemName == QLatin1String("RSSI")) {
         const QString level = m_pLogic->GetRSSI();
-        return level == QLatin1String(UnknownKey) ? tr(level) : level;
+        return level == QLatin1String(DiagnosticsText::UnknownKey) ? tr(level) : level;
     }
     const ValueRow *row = findRow(NetworkRows, itemName);
     return row ? valueOf(row) : getNetSetTabItemValueVer2(itemName);
@@ -682,7 +654,7 @@ QString DiagnosticsUIPlugin::getNetSetTabItemValueVer2(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
+        return DiagnosticsText::unknown();
     return valueOf(findRow(RegistrationRows, itemName));
 }
 
@@ -690,11 +662,9 @@ QString DiagnosticsUIPlugin::getSimTabItemValue(QString itemName)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     if (!m_pLogic)
-        return unknownText();
-    if (itemName == QLatin1String(SimMessagesItem)) {
-        const int simStorage = 1;
-        return m_pLogic->GetMessageCount(simStorage);
-    }
+        return DiagnosticsText::unknown();
+    if (itemName == QLatin1String(SimMessagesItem))
+        return m_pLogic->GetMessageCount(DiagnosticsUILogic::SimStorage);
     if (itemName == QLatin1String("PIN code status")) {
         const QString key = m_pLogic->GetPinStatus();
         const QString text = tr(key);
@@ -711,47 +681,43 @@ void DiagnosticsUIPlugin::onButtonSaveClicked()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
     const QPointer<DiagnosticsUIPlugin> alive(this); // the host may delete it meanwhile
-    const QString path = DiagnosticsExport::askPath(m_pwidgetDiagnostic);
+    const QString path = DiagnosticsSaveDialogs::askPath(m_pwidgetDiagnostic);
     if (alive && !path.isNull() && saveToFile(path) != Success)
-        DiagnosticsExport::showFailure(m_pwidgetDiagnostic);
+        DiagnosticsSaveDialogs::showFailure(m_pwidgetDiagnostic);
 }
 
 int DiagnosticsUIPlugin::saveToFile(QString path)
 {
     qDebug("%s: %s: %s: called", LOG_AT);
-    QFile file(path);
+    DiagnosticsReportFile file(path);
     if (!m_pConfigParse || !m_ptabWidgetDiag) {
         qDebug("%s: %s: %s: ConfigInstance or m_ptabWidgetDiag is null", LOG_AT);
         return Missing;
     }
     const QList<TabDetails> *tabs = m_pConfigParse->GetTabInformation();
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text)) {
+    if (!file.open()) {
         qDebug("%s: %s: %s: Error in opening file", LOG_AT);
         return CannotOpen;
     }
-    {
-        QTextStream stream(&file);
-        setUtf8(stream);
-        for (int index = 0; tabs && index < tabs->size(); ++index) {
-            const TabDetails &tab = tabs->at(index);
-            if (!tab.show)
+    for (int index = 0; tabs && index < tabs->size(); ++index) {
+        const TabDetails &tab = tabs->at(index);
+        if (!tab.show)
+            continue;
+        file.writeLine(tr(tab.resourceID));
+        for (int row = 0; tab.items && row < tab.items->size(); ++row) {
+            const TabItem &item = tab.items->at(row);
+            if (!item.show)
                 continue;
-            stream << tr(tab.resourceID) << endLine;
-            for (int row = 0; tab.items && row < tab.items->size(); ++row) {
-                const TabItem &item = tab.items->at(row);
-                if (!item.show)
-                    continue;
-                const QString caption = tr(item.resourceID);
-                QString value;
-                getValueLabelVal(tab.name, item.name, &value);
-                stream << caption << " " << value << endLine;
-            }
-            stream << endLine;
+            const QString caption = tr(item.resourceID);
+            QString value;
+            getValueLabelVal(tab.name, item.name, &value);
+            file.writeRow(caption, value);
         }
-        file.close();
+        file.writeLine();
     }
+    file.close();
     qDebug("%s: %s: %s: file writing success", LOG_AT);
-    DiagnosticsExport::showSuccess(m_pwidgetDiagnostic);
+    DiagnosticsSaveDialogs::showSuccess(m_pwidgetDiagnostic);
     return Success;
 }
 

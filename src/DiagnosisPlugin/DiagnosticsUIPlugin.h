@@ -100,8 +100,7 @@ private:
     int applyDeviceCustomization();
 
     bool isMarkable(int index) const;
-    void showRows(const TabDetails &tab, QWidget *labels);
-    QString unknownText();
+    void showRows(const TabDetails &tab, QPointer<QWidget> page);
     QString valueOf(const ValueRow *row);
 
     DiagnosticsUILogic *m_pLogic;

@@ -5,7 +5,7 @@
 
 #include "DiagnosticsCdmaUI.h"
 #include "DiagnosticsConfigParse.h"
-#include "DiagnosticsExport.h"
+#include "DiagnosticsSaveDialogs.h"
 #include "DiagnosticsUILogic.h"
 
 #include <QApplication>
@@ -37,14 +37,14 @@ void take(QtMsgType type, const QMessageLogContext &, const QString &message)
 } // namespace
 
 // In place of the plug-in's own: its dialogs would take most of the time.
-QString DiagnosticsExport::askPath(QWidget *)
+QString DiagnosticsSaveDialogs::askPath(QWidget *)
 {
     return exportPath();
 }
 
-void DiagnosticsExport::showSuccess(QWidget *) {}
+void DiagnosticsSaveDialogs::showSuccess(QWidget *) {}
 
-void DiagnosticsExport::showFailure(QWidget *)
+void DiagnosticsSaveDialogs::showFailure(QWidget *)
 {
     Fuzz::require(false, "the export succeeds");
 }

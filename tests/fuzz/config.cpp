@@ -13,6 +13,7 @@
 #include <QBuffer>
 #include <QLabel>
 #include <QTabWidget>
+#include <QXmlStreamReader>
 
 using namespace Fuzz;
 
@@ -88,7 +89,7 @@ Content readAgain(const QByteArray &xml)
         else if (is("simmsgprompt") && wordingHolds) {
             wordingHolds = false;
             const QString wording = reader.readElementText();
-            if (!reader.hasError())
+            if (is("simmsgprompt")) // still, after an error
                 content.customization[QStringLiteral("simmsgprompt")] = wording;
         }
     }

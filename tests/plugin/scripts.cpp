@@ -10,13 +10,15 @@
 //
 // The host and the modem
 //   configuration XML | write FILE TEXT | remove FILE      in the plug-in's folder
-//   language NAME | host STATE                             see setHost()
+//   language NAME | text KEY=TEXT | host STATE             see setHost()
+//   home FOLDER                                            the user's, from the plug-in's
+//   asked KEY: COMMAND                                     when the host is next asked for KEY
 //   modem NAME | set KEY=VALUE;... | fail FUNCTION[=CODE [filled]] | unplug | plug | event CODE
 //   Init | ShowWindow | Notify CODE | OnDestroy | ReleaseData | drop-rows
 //   delete-parent | delete-plug-in
 //   open                                                   Init and ShowWindow, which succeed
 // The user
-//   visit INDEX | press BUTTON | close | Esc
+//   visit INDEX | press BUTTON | close | Esc | Enter
 //   save [FILE] [while DIALOG: COMMAND]                    no file cancels
 //   swap                                                   hides the shown window, shows the hidden
 // What there is to see
@@ -31,6 +33,7 @@
 
 #include "HostCore.h"
 #include "SdkControl.h"
+#include "core/Change.h"
 #include "interfaces/IDialupUIService.h"
 #include "interfaces/INetConnectSetting.h"
 #include "interfaces/IStatusBarUI.h"
@@ -47,6 +50,7 @@
 #include <QTranslator>
 #include <QtTest>
 
+#include <dlfcn.h>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -57,6 +61,9 @@ namespace {
 
 typedef DiagnosticsUILogic Logic;
 typedef DiagnosticsConfigParse Store;
+
+QMap<QString, QString> hostTexts; ///< by resource key, in place of the host's
+std::function<void(const QString &key)> hostIsAsked;
 
 /// The getters of the query layer by their names.
 const std::map<QString, std::function<QString(Logic *)>> getters = {
@@ -106,6 +113,7 @@ public:
 private:
     int give(const char *key, QString &text) const
     {
+        hostIsAsked(key);
         text = values[key];
         return result;
     }
@@ -154,6 +162,15 @@ QString escape(const QString &text)
 
 } // namespace
 
+// In front of libcore's.
+QString Change::tr(const QString &key, const QString &context)
+{
+    static const auto translate = reinterpret_cast<QString (*)(const QString &, const QString &)>(
+        dlsym(RTLD_NEXT, "_ZN6Change2trERK7QStringS2_"));
+    hostIsAsked(key);
+    return hostTexts.contains(key) ? hostTexts[key] : translate(key, context);
+}
+
 class ScriptTest : public PluginTest
 {
     Q_OBJECT
@@ -178,6 +195,7 @@ private:
     void setHost(const QString &state);
     void fail(const QString &function, const QString &code);
     void press(const QString &name);
+    void enter();
     void swap();
     void saveTo(const QString &name, QString meanwhile);
     void sayWindows();
@@ -228,6 +246,8 @@ private:
     TranslationRecorder m_recorder;
     QStringList m_said;  ///< what followed from a command
     QStringList m_calls; ///< of the SDK since the last "cost"
+    const QDir m_home = QDir::home();
+    QString m_asked; ///< "KEY: COMMAND"
     bool m_quiet = false;
 };
 
@@ -238,6 +258,12 @@ void ScriptTest::init()
     HostCore::setSettingsFile(path("host.ini"));
     m_calls.clear();
     m_quiet = false;
+    hostTexts.clear();
+    hostIsAsked = [this](const QString &key) {
+        if (m_asked.startsWith(key + ": "))
+            act(std::exchange(m_asked, QString()).section(": ", 1));
+    };
+    m_asked.clear();
     m_recorder.contexts.clear();
     QCoreApplication::installTranslator(&m_recorder);
 }
@@ -245,6 +271,7 @@ void ScriptTest::init()
 void ScriptTest::cleanup()
 {
     QCoreApplication::removeTranslator(&m_recorder);
+    qputenv("HOME", m_home.path().toUtf8());
     delete m_plugins;
     m_plugins = nullptr;
     tearDown();
@@ -302,7 +329,10 @@ void ScriptTest::initTestCase()
         {"write", [this](A a) { write(a.section(' ', 0, 0), a.section(' ', 1).toUtf8()); }},
         {"remove", [this](A a) { QFile::remove(file(a)); }},
         {"language", [](A a) { setLanguage(qPrintable(a)); }},
+        {"text", [](A a) { hostTexts[a.section('=', 0, 0)] = a.section('=', 1); }},
         {"host", [this](A a) { setHost(a); }},
+        {"home", [this](A a) { qputenv("HOME", file(a).toUtf8()); }},
+        {"asked", [this](A a) { m_asked = a; }},
         {"modem", [](A a) { attachModem(qPrintable(a)); }},
         {"set", [](A a) { setValues(a); }},
         {"fail", [this](A a) { fail(a.section("=", 0, 0), a.section("=", 1)); }},
@@ -325,6 +355,7 @@ void ScriptTest::initTestCase()
         {"press", [this](A a) { press(a); }},
         {"close", [this](A) { window()->close(); }},
         {"Esc", [this](A) { QTest::keyClick(window(), Qt::Key_Escape); }},
+        {"Enter", [this](A) { enter(); }},
         {"swap", [this](A) { swap(); }},
         {"save", [this](A a) { saveTo(a.section("while ", 0, 0), a.section("while ", 1)); }},
 
@@ -401,6 +432,20 @@ void ScriptTest::press(const QString &name)
         say("no such button");
 }
 
+/// Presses Enter, and tells of a file dialog that this opens.
+void ScriptTest::enter()
+{
+    QTimer answers;
+    connect(&answers, &QTimer::timeout, [this] {
+        if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+            say("file dialog");
+            dialog->reject();
+        }
+    });
+    answers.start(1);
+    QTest::keyClick(window()->focusWidget(), Qt::Key_Enter);
+}
+
 /// Hides the windows that are shown, and shows the hidden ones.
 void ScriptTest::swap()
 {
@@ -467,10 +512,23 @@ void ScriptTest::sayTabOrder()
     say(order.join(", "));
 }
 
-/// What assistive technology is told the value of a row is of.
+/// What assistive technology is told the value of a row is of, and whether the caption is drawn
+/// otherwise than its text stands: an ampersand can be taken for the mark of a shortcut.
 void ScriptTest::sayCaption(const QString &row)
 {
     auto *value = window()->findChild<QLabel *>("DiagnosticsUIPlugin_label" + row + "Value");
+    auto *caption = window()->findChild<QLabel *>("DiagnosticsUIPlugin_label" + row);
+    QLabel plain(caption->text(), caption->parentWidget());
+    plain.setAlignment(caption->alignment());
+    plain.resize(caption->size());
+    const auto draw = [](QWidget *label) {
+        QImage image(label->size(), QImage::Format_RGB32);
+        image.fill(Qt::white);
+        label->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
+        return image;
+    };
+    if (draw(caption) != draw(&plain))
+        say("drawn otherwise than " + caption->text());
     for (const auto &relation :
          QAccessible::queryAccessibleInterface(value)->relations(QAccessible::Label))
         say(relation.first->text(QAccessible::Name) + ": " + value->text());
@@ -500,9 +558,10 @@ void ScriptTest::sayQuestion()
     const auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
     QString text;
     QDebug(&text) << dialog->nameFilters().join(", ")
-                  << QDir::home().relativeFilePath(dialog->directory().path())
+                  << m_home.relativeFilePath(dialog->directory().path())
                   << dialog->findChild<QLineEdit *>()->text() << dialog->acceptMode()
-                  << dialog->fileMode() << dialog->options() << dialog->defaultSuffix();
+                  << dialog->fileMode() << dialog->options() << dialog->defaultSuffix()
+                  << dialog->supportedSchemes().join(", ");
     say(text.trimmed());
 }
 

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef DIAGNOSTICSSDKTEXT_H
+#define DIAGNOSTICSSDKTEXT_H
+
+#include <QString>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+/// A text buffer of the SDK, or a copy of a text field: zeroed, and with room for the zero that a
+/// text filling all of its units lacks. Texts of bytes are Latin-1, those of 16-bit units UTF-16.
+template <std::size_t size, typename Unit = char>
+class SdkText
+{
+public:
+    SdkText() : m_text() {}
+    explicit SdkText(const Unit (&field)[size]) : m_text()
+    {
+        std::memcpy(m_text, field, sizeof field);
+    }
+
+    Unit *buffer() { return m_text; }
+    const Unit *text() const { return m_text; }
+    QString toString() const { return convert(m_text); }
+
+private:
+    static QString convert(const char *text) { return QString::fromLatin1(text); }
+    static QString convert(const uint16_t *text)
+    {
+        return QString(reinterpret_cast<const QChar *>(text));
+    }
+
+    Unit m_text[size + 1];
+};
+
+#endif

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef DIAGNOSTICSWINDOW_H
+#define DIAGNOSTICSWINDOW_H
+
+#include <QHash>
+#include <QString>
+
+class ExtendDialog;
+class QHBoxLayout;
+class QObject;
+class QPushButton;
+class QWidget;
+
+/// What both windows do alike: the frame, the buttons, the showing. GUI thread.
+class DiagnosticsWindow
+{
+public:
+    /// The host's frame for a window; null if there is no memory for it.
+    static ExtendDialog *createFrame(QWidget *parent);
+
+    /// Whether the settings ask for a Save button; \a settings may be null.
+    static bool hasSaveButton(const QHash<QString, QString> *settings);
+
+    /// Gives a button the text of a resource key, and connects its clicked() to a slot.
+    static void setUpButton(QPushButton *button, const char *textKey, QObject *receiver,
+                            const char *slot);
+
+    /// Lays out the buttons, aligned right, with a gap in pixels between them. The Tab key goes
+    /// through them in this order; Cancel has the focus and is the default. \a save may be null.
+    static void layOutButtons(QHBoxLayout *layout, QPushButton *save, QPushButton *refresh,
+                              QPushButton *cancel, int gap);
+
+    /// Shows a window in the middle of its parent; it deletes itself when it is closed.
+    static void show(ExtendDialog *window);
+};
+
+#endif

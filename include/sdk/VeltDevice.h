@@ -21,7 +21,7 @@ enum VELT_DEVICE_EVENT
 };
 
 /// Receives the device events, on a thread of the SDK's own, one event at a time. \a data is
-/// reserved and null. Returns 1 when the event was of use and 0 otherwise, which the SDK ignores.
+/// reserved and null. Returns 1 for an event that it handles, else 0; the SDK ignores the result.
 /// A callback may call any function of the SDK, unregistering itself included.
 typedef int (*VELT_DEVICE_CALLBACK)(int event, void *data);
 
@@ -40,7 +40,7 @@ VELT_API VELT_ERROR VELT_DevSrv_UnRegisterDevMgrCallback(VELT_DEVICE_CALLBACK ca
 /// Ends a registration for the events of the initialisation, under the same rules.
 VELT_API VELT_ERROR VELT_DevSrv_UnRegisterDevInitEventCallback(VELT_DEVICE_CALLBACK callback);
 
-/// How far the device is.
+/// How far the device's initialisation is.
 enum VELT_DEVICE_STATUS
 {
     VELT_DEV_STATUS_NONE = 0,

@@ -3,8 +3,8 @@
 
 /// Types shared by all functions of the device SDK (libsdk).
 ///
-/// The SDK is a set of free functions with C linkage that talk to the one attached modem. Rules
-/// that hold for all of them:
+/// The SDK is a set of free functions with C linkage that query the attached modem. Rules that hold
+/// for all of them:
 /// - Each returns a VELT_ERROR: 0 on success, any other value for a failure. A failing function
 ///   leaves its out-parameters as they were.
 /// - None blocks: a modem that does not answer gives a result code.
@@ -33,8 +33,8 @@
 /// The result of every function.
 typedef long VELT_ERROR;
 
-/// Results that libsdk itself gives. A device may give others; callers should only tell 0 from the
-/// rest.
+/// Results that libsdk itself gives. A device may give others, so callers should compare with 0
+/// only.
 enum : VELT_ERROR
 {
     VELT_SUCCESS = 0,

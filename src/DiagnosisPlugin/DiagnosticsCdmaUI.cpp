@@ -47,7 +47,7 @@ const char CarriersKey[] = "IDS_NUM_CARRIERS_PROMPT";
 const char EsnKey[] = "IDS_MAINFRM_ESN";
 const char MeidKey[] = "IDS_DIAGNOSE_MEID";
 
-/// What the key of a row asks the query layer.
+/// The getter of a row, by the row's resource key.
 struct ValueRow
 {
     const char *key;
@@ -194,7 +194,7 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
     m_pvboxLayoutCdmaMain = new (std::nothrow) QVBoxLayout;
     m_phboxLayoutCdmaTop = new (std::nothrow) QHBoxLayout;
     m_phboxLayoutCdmaBottom = new (std::nothrow) QHBoxLayout;
-    if (m_pwidgetCdmaDiagnostic) // without a parent they would belong to nobody
+    if (m_pwidgetCdmaDiagnostic) // without it the frame would have no parent
         m_pframeCdmaDiag = new (std::nothrow) QFrame(m_pwidgetCdmaDiagnostic);
     if (m_pframeCdmaDiag) {
         m_ppushButtonCdmaCancel = new (std::nothrow) QPushButton(m_pframeCdmaDiag);
@@ -321,7 +321,7 @@ int DiagnosticsCdmaUI::populateList()
     add(VoltageKey);
     if (!m_pLogic->GetPrlVersion().isEmpty())
         add(PrlKey);
-    // Looser than the test of the Save button's setting.
+    // A looser test than that of the Save button's setting.
     if (m_pHashSetting && m_pHashSetting->value(QLatin1String("Carriers"))
                               .contains(QLatin1String("true"), Qt::CaseInsensitive))
         add(CarriersKey);

@@ -31,8 +31,8 @@ public:
     static DiagnosticsCdmaUI *CreateInstance();
     static void DestroyInstance();
 
-    /// Builds and shows a window; false when it could not be built. The pointers to an earlier one
-    /// are dropped, the window is not.
+    /// Builds and shows a window; returns false if it cannot be built. An earlier window stays, but
+    /// the pointers to it are dropped.
     bool ShowCdmaDiagWidget(QWidget *parent);
     bool visible();
     bool CloseCdmaDiagWidget();
@@ -42,8 +42,7 @@ public:
     /// The same, with the unknown text for an empty one.
     QString getLabelValuebyName(QString key);
 
-    /// The text of a resource key, to be handed over as QString or QLatin1String: a plain literal
-    /// would choose the toolkit's tr(), which does not ask the host.
+    /// See DiagnosticsUIPlugin::tr().
     QString tr(QString key);
 
 private Q_SLOTS:
@@ -67,8 +66,8 @@ private:
 
     DiagnosticsUILogic *m_pLogic;
     DiagnosticsConfigParse *m_pConfigParse;
-    // The widgets belong to the window, which can go at any time: those that are used after it was
-    // built are guarded.
+    // The widgets belong to the window, which can be deleted at any time: the pointers that are
+    // used after it was built are guarded.
     QPointer<ExtendDialog> m_pdialogCdmaDiagnostics;
     QPointer<QWidget> m_pwidgetCdmaDiagnostic;
     QVBoxLayout *m_pvboxLayoutCdmaMain;
@@ -81,7 +80,7 @@ private:
     QStringList *m_plistCdma; ///< resource keys of the rows
     int m_bPesn;
     int m_iRowCount;
-    QHash<QString, QString> *m_pHashSetting; ///< the store's
+    QHash<QString, QString> *m_pHashSetting; ///< owned by the store
 };
 
 #endif

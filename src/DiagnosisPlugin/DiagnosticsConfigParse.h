@@ -18,8 +18,8 @@ struct TabItem
     int show;           ///< 0 hides the row
 };
 
-/// One configured tab. All copies share one row list, which the configuration store owns: keep no
-/// copy beyond the store's life.
+/// One configured tab. All copies share one row list, which the configuration store deletes: no
+/// copy may outlive the store.
 struct TabDetails
 {
     QString name;          ///< chooses the table of values, and names the tab's page
@@ -28,8 +28,9 @@ struct TabDetails
     QList<TabItem> *items; ///< in the order of the file, never null
 };
 
-/// The store of all that DiagnosisConfig.xml says: the tabs with their rows, the settings and the
-/// customization. Filled once, then only read; it owns the containers that it hands out.
+/// The content of DiagnosisConfig.xml: the tabs with their rows, the settings and the
+/// customization. The store is filled once and then only read. It owns the containers that it hands
+/// out.
 ///
 /// A counted singleton: each GetInstance() counts one reference, and only the DestroyInstance()
 /// that finds the count at 0 deletes the object. Used on the GUI thread.
@@ -39,8 +40,8 @@ public:
     static DiagnosticsConfigParse *GetInstance();
     static void DestroyInstance();
 
-    /// Adds what a file of the plug-in's folder says to the store: 0 on success, 3 when the file
-    /// could not be opened or has an error; what was read before the error is kept.
+    /// Adds the content of a file in the plug-in's folder. Returns 0 on success, and 3 if the file
+    /// cannot be opened or has an error; what was read before the error is kept.
     unsigned int LoadFile(QString fileName);
 
     /// All three are null after ReleaseData().
@@ -68,7 +69,7 @@ private:
     QString m_strKey;
     QString m_strValue;
     QString m_strSection;
-    QString m_strCustomizeActive; ///< "true" while a block's simmsgprompt is still to be taken
+    QString m_strCustomizeActive; ///< "true" while a block holds whose simmsgprompt is not read yet
     QString m_strReserved;
     QHash<QString, QString> *m_pHashCustomization;
 };

@@ -10,10 +10,10 @@
 
 #include <time.h>
 
-/// The current local time as "hh:mm:ss:zzz", written digit by digit. The toolkit's would cost more
-/// than all the rest of a log line: its current time looks each time whether the zone's file has
-/// changed, and its text goes through a format-string parser. Here the zone is that of the
-/// process's start, or of the toolkit's last look.
+/// The current local time as "hh:mm:ss:zzz", written digit by digit. QTime would cost more than all
+/// the rest of a log line: its current time asks each time whether the file of the time zone has
+/// changed, and its text goes through a format-string parser. Here the time zone is that of the
+/// process's start, unless Qt has read a newer one.
 class LogTime
 {
 public:
@@ -45,8 +45,8 @@ private:
     char m_text[13];
 };
 
-/// Time, source path and function as arguments of qDebug(); each source file defines its path as
-/// LogSource. Where a helper writes a getter's lines, it uses LOG_AS with the getter's name.
+/// Time, source path and function as arguments of qDebug(). Each source file defines its path as
+/// LogSource. A helper that writes a getter's lines uses LOG_AS with the getter's name.
 #define LOG_AS(function) LogTime().text(), LogSource, function
 #define LOG_AT LOG_AS(__func__)
 

@@ -18,9 +18,10 @@ QString valueName(const QString &rowName)
     return captionName(rowName) + QLatin1String("Value");
 }
 
-/// Sets a caption's text, and its buddy, which tells assistive technology what the value is of. A
-/// caption with a buddy takes an ampersand for the mark of a shortcut, so a text with one has none;
-/// the buddy goes first, since a shortcut that is there stays.
+/// Sets a caption's text and its buddy. The buddy tells assistive technology what the value is of,
+/// but makes the label read an ampersand as the mark of a shortcut, so a text with an ampersand
+/// gets none. The old buddy is removed first: removed after the text was set, it would leave its
+/// shortcut.
 void setText(QLabel *caption, QLabel *value, const QString &text)
 {
     caption->setBuddy(nullptr);
@@ -34,15 +35,15 @@ void setText(QLabel *caption, QLabel *value, const QString &text)
 void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowName,
                            const QString &text)
 {
-    // Beside each other in a window from right to left too: by themselves, labels turn a text in
-    // Latin letters to the left there.
+    // In a window from right to left, labels would align a text in Latin letters to the left, and
+    // caption and value would stand apart.
     for (QLabel *label : {caption, value})
         label->setAlignment(Qt::AlignAbsolute |
                             QStyle::visualAlignment(label->layoutDirection(), label->alignment()));
     caption->setObjectName(captionName(rowName));
     value->setObjectName(valueName(rowName));
     setText(caption, value, text);
-    // A text from the air must not be read as markup.
+    // An operator's name, which the network sends, must not be read as markup.
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
 }

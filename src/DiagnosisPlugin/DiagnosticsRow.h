@@ -9,8 +9,8 @@
 class QLabel;
 class QWidget;
 
-/// What the rows of both windows have in common: a caption and a value label, which are found again
-/// by their object names. GUI thread.
+/// A row of either window: a caption and a value label, which are found by their object names. GUI
+/// thread.
 class DiagnosticsRow
 {
 public:
@@ -19,18 +19,19 @@ public:
         CaptionWidth = 185 ///< in pixels
     };
 
-    /// Names the two labels after the row, gives the caption its text and prepares the value for
-    /// texts from outside.
+    /// Names the two labels after the row, sets the caption's text and makes the value show plain
+    /// text, which can be selected and copied.
     static void setUp(QLabel *caption, QLabel *value, const QString &rowName, const QString &text);
 
-    /// The labels of a row below a widget, which may be null; null where there is none.
+    /// A label of a row among the descendants of a widget, which may be null; null if there is
+    /// none.
     static QLabel *caption(const QWidget *below, const QString &rowName);
     static QLabel *value(const QWidget *below, const QString &rowName);
 
-    /// Changes the caption of a row, if there is such a row.
+    /// Sets the caption's text of a row, if there is such a row.
     static void setCaption(const QWidget *below, const QString &rowName, const QString &text);
 
-    /// Puts another wording in place of "SIM/USIM" in the caption of a row, if there is such a row.
+    /// Replaces "SIM/USIM" in the caption of a row, if there is such a row.
     static void replaceSimWording(const QWidget *below, const QString &rowName,
                                   const QString &wording);
 };

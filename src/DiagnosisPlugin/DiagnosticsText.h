@@ -18,7 +18,7 @@ inline QString of(const QString &key)
     return Change::tr(key, QLatin1String("DiagnosisPlugin"));
 }
 
-/// Stands for every value that is empty or cannot be had.
+/// The text for every value that is empty or cannot be read.
 inline QString unknown()
 {
     return of(QLatin1String(UnknownKey));

@@ -20,9 +20,9 @@ QT_END_NAMESPACE
 
 typedef QXmlStreamReader QCoreXmlStreamReader;
 
-// The export of the plug-in: in the class, and behind it in one source file. In the class it must
-// stand between two macros of Qt's own, because the moc of Qt 4 does not expand it and has to pass
-// over it.
+// The export of the plug-in: the first macro stands in the class, the second in one source file.
+// The first must stand between two of Qt's own macros, since the moc of Qt 4 does not expand it and
+// can skip it only there.
 #if QT_VERSION >= 0x050000
 #define DIAGNOSTICS_PLUGIN_METADATA Q_PLUGIN_METADATA(IID "com.velt.DiagnosisPlugin")
 #define DIAGNOSTICS_EXPORT_PLUGIN(name, className)                                                 \
@@ -39,7 +39,7 @@ typedef QXmlStreamReader QCoreXmlStreamReader;
 #define DIAGNOSTICS_EXPORT_PLUGIN(name, className) Q_EXPORT_PLUGIN2(name, className)
 #endif
 
-// Templates, so that whoever needs only the macros includes neither streams nor widgets.
+// Templates, so that a file that needs only the macros includes neither streams nor widgets.
 
 template <typename TextStream>
 void setUtf8(TextStream &stream)

@@ -33,7 +33,7 @@ struct CodeText
     const char *text;
 };
 
-/// The text of a code of the device, or \a other for a code that the table does not have.
+/// The text for a code of the device; \a other for a code that is not in the table.
 template <std::size_t size>
 QString textOf(const CodeText (&table)[size], int code, const char *other)
 {
@@ -84,8 +84,8 @@ const CodeText PinStates[] = {
 };
 // clang-format on
 
-/// Firmware and hardware version share the SDK function and, by its name, the log lines; \a
-/// function is the getter's name.
+/// The firmware or the hardware version. One SDK function gives both, and the log lines name that
+/// function. \a function is the getter's name.
 template <std::size_t size>
 QString versionField(const char *function, char (VELT_VERSION_INFO::*field)[size])
 {
@@ -104,7 +104,7 @@ QString versionField(const char *function, char (VELT_VERSION_INFO::*field)[size
     return text.toString();
 }
 
-/// ESN and MEID in the same way.
+/// The ESN or the MEID, in the same way.
 template <std::size_t size>
 QString esnField(const char *function, char (VELT_ESN_INFO::*field)[size])
 {
@@ -168,7 +168,7 @@ QString addressText(const char *function, const char *sdkName, const QString &de
                     const QString &profileName,
                     VELT_ERROR (*ask)(const char *, const char *, char *, int32_t))
 {
-    const int32_t sizeForSdk = 64; // the buffer has more, should a device not keep to it
+    const int32_t sizeForSdk = 64; // the buffer is larger, in case a device ignores this
     SdkText<255> address;
     const QByteArray device = deviceName.toLatin1();
     const QByteArray profile = profileName.toLatin1();
@@ -188,8 +188,8 @@ QString counts(int used, int capacity)
     return QString::number(used) + QLatin1String(" / ") + QString::number(capacity);
 }
 
-/// A plug-in of the host as one of its interfaces, or null when there is no container, no such
-/// plug-in, or the plug-in is something else.
+/// A plug-in of the host as one of its interfaces; null if there is no container or no such
+/// plug-in, or if the plug-in does not have the interface.
 template <typename Interface>
 Interface *hostPlugin(const char *function, const char *classIdentifier, int pluginType)
 {
@@ -527,7 +527,7 @@ QString DiagnosticsUILogic::GetSelectionMode()
     qDebug("========> %s: %s: %s: calling VELT_NetSrv_GetCurPlmn(%d)", LOG_AT, mode);
     const VELT_ERROR result = VELT_NetSrv_GetCurPlmn(&mode, &plmn);
     qDebug("<======= %s: %s: %s: VELT_NetSrv_GetCurPlmn(%d) returned %li:", LOG_AT, mode, result);
-    // Looked at whatever the result is: a failing call leaves the preset, which has no text.
+    // The result does not matter: a failing call leaves the preset, which has no text.
     return textOf(SelectionModes, mode, "");
 }
 
@@ -589,7 +589,7 @@ QString DiagnosticsUILogic::GetRSSI()
     const int raw = signal.first;
     if (GetDeviceType() != QLatin1String("TD_SCDMA"))
         return returnString(raw);
-    // A TD-SCDMA device counts 1 dB a step.
+    // On a TD-SCDMA device a step is 1 dB.
     switch (raw) {
     case 0:
         return QLatin1String("<= -116dBm");

@@ -10,12 +10,12 @@
 class DiagnosticsConfigParse;
 class IStatusBarUI;
 
-/// The query layer: the one object that knows the device SDK. It turns the device's events into
-/// signals and answers each query with display text.
+/// The query layer. It calls the device SDK, turns the device's events into signals and answers
+/// each query with display text.
 ///
 /// A getter asks the device anew each time. It returns plain text, or a resource key ("IDS_...")
-/// that the caller translates; on any failure it returns its fallback, an empty text where nothing
-/// else is said, and the log tells why.
+/// that the caller translates. On a failure it returns an empty text, unless its comment names
+/// another, and logs the SDK's result.
 ///
 /// A counted singleton: each GetInstance() counts one reference, and only the Destroy() that finds
 /// the count at 0 deletes the object. Used on the GUI thread, but for OnDevEvents().
@@ -24,22 +24,23 @@ class DiagnosticsUILogic : public QObject
     Q_OBJECT
 
 public:
-    // Where messages are stored.
+    // Message stores, for GetMessageCount().
     static const int SimStorage;
     static const int DeviceStorage;
 
     static DiagnosticsUILogic *GetInstance();
     static void Destroy();
 
-    /// The SDK's callback, on a thread of the SDK's own: 1 when the event was of use, else 0.
+    /// The callback for the device's events, called on a thread of the SDK's own. Returns 1 for an
+    /// event that it handles, else 0.
     static int OnDevEvents(int event, void *data);
 
     void RegisterWithDevice();
     void UnRegisterDevice();
 
-    /// A raw RSSI reading, on the 0 to 31 scale of 3GPP TS 27.007, as text or resource key.
+    /// An RSSI reading of 0 to 31 (3GPP TS 27.007) in dBm; the unknown key for any other reading.
     QString returnString(int rssi);
-    /// The resource key of a registration state, numbered as in +CREG.
+    /// Sets *text to the resource key of a registration state, see VELT_REGISTRATION.
     void switchCase(int state, QString *text);
 
     QString GetSoftwareVersion();
@@ -52,7 +53,7 @@ public:
     /// "WCDMA", "CDMA", "TD_SCDMA" or "UNKNOWN".
     QString GetDeviceType();
     QString GetEsn();
-    /// Whether the ESN is a pseudo-ESN, made from the MEID; false on failure.
+    /// Whether the ESN is a pseudo-ESN, which is derived from the MEID; false on failure.
     bool IsPesn();
     QString GetMeid();
     QString GetPrlVersion();
@@ -96,12 +97,12 @@ public:
     /// \a storage is SimStorage or DeviceStorage.
     QString GetMessageCount(int storage);
 
-    /// Of the current connection profile, through the device name last read.
+    /// Of the current connection profile and the device name that was read last.
     QString GetIPAddress();
     QString GetDNSServer();
     QString GetAPN();
     QString getProfileName();
-    /// The host's status bar, or null. Not owned, and not to be kept.
+    /// The host's status bar, or null. The host owns it and may delete it: do not keep it.
     IStatusBarUI *getStatusBarInstance();
 
 Q_SIGNALS:
@@ -119,7 +120,7 @@ private:
     static int m_iInstanceCount;
 
     DiagnosticsConfigParse *m_pConfigParse;
-    QString m_strDeviceName; ///< the last answer of GetDeviceName()
+    QString m_strDeviceName; ///< the name that GetDeviceName() read last
 };
 
 #endif

@@ -27,7 +27,7 @@
 
 using namespace DiagnosticsResult;
 
-/// What the configured name of a row asks the query layer.
+/// The getter of a row, by the row's configured name.
 struct DiagnosticsUIPlugin::ValueRow
 {
     const char *name;
@@ -321,7 +321,7 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
     m_pwidgetDiagnostic = new (std::nothrow) QWidget(m_pdialogDiagnostics);
     m_pdialogDiagnostics->AddMainWidget(m_pwidgetDiagnostic);
     m_ptabWidgetDiag = nullptr;
-    if (m_pwidgetDiagnostic) { // without it they would belong to nobody
+    if (m_pwidgetDiagnostic) { // without it they would have no parent
         m_ptabWidgetDiag = new (std::nothrow) QTabWidget(m_pwidgetDiagnostic);
         m_ppushButtonCancel = new (std::nothrow) QPushButton(m_pwidgetDiagnostic);
         m_ppushButtonRefresh = new (std::nothrow) QPushButton(m_pwidgetDiagnostic);
@@ -362,7 +362,7 @@ int DiagnosticsUIPlugin::createDiagWidget(QWidget *parent)
     DiagnosticsWindow::setUpButton(m_ppushButtonCancel, "IDS_MAINFRM_CANCEL_PROMPT", this,
                                    SLOT(onButtonCancelClicked()));
     connect(m_pdialogDiagnostics, SIGNAL(dlgCloseEvent()), this, SLOT(onDlgClose()));
-    // Connected after the tabs were added: the first one is filled by its creation.
+    // Only now: dynamicTabCreation() fills the first tab itself.
     connect(m_ptabWidgetDiag, SIGNAL(currentChanged(int)), this, SLOT(onTabChange(int)));
 
     if (createLayout() != Success) {
@@ -456,7 +456,7 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
         return Missing;
     }
     QWidget *page = tab ? m_ptabWidgetDiag->findChild<QWidget *>(pageName(*tab)) : nullptr;
-    // Tabs with the same name have one page between them, and its form.
+    // Tabs of one name share a page and its form.
     QFormLayout *layout = page ? qobject_cast<QFormLayout *>(page->layout()) : nullptr;
     if (!layout)
         layout = new (std::nothrow) QFormLayout(page);
@@ -533,7 +533,7 @@ int DiagnosticsUIPlugin::applyDeviceCustomization()
 
 // ---- Filling the tabs ----
 
-/// Whether a tab has a mark: only indices of the tabs that the window was built with do.
+/// Whether m_pTabFilled has an entry for a tab.
 bool DiagnosticsUIPlugin::isMarkable(int index) const
 {
     return index >= 0 && index < m_iTabFilledCount;
@@ -587,7 +587,7 @@ void DiagnosticsUIPlugin::onTabChange(int index)
         qDebug("%s: %s: %s: no more tab to switch or widget is null", LOG_AT);
         return;
     }
-    // The caption, and from the match on the configured name: the mark below depends on it.
+    // The caption, and once a tab is found its configured name; either is compared at the end.
     QString text = m_ptabWidgetDiag->tabText(index);
     const QList<TabDetails> *tabs = m_pConfigParse->GetTabInformation();
     if (!tabs) {
@@ -620,7 +620,7 @@ void DiagnosticsUIPlugin::getValueLabelVal(QString tabName, QString itemName, QS
         *value = DiagnosticsText::unknown();
 }
 
-/// What a row of the dispatch says now; null stands for a name that no row has.
+/// Reads the value of a row of the dispatch; null stands for a name without a row.
 QString DiagnosticsUIPlugin::valueOf(const ValueRow *row)
 {
     if (!row)

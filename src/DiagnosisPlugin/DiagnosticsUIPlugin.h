@@ -40,13 +40,16 @@ public:
     DiagnosticsUIPlugin();
     ~DiagnosticsUIPlugin() override;
 
+    /// Relies on Init(): without the query layer it returns 0. Asks the device for its type, and
+    /// shows the window for that type. The window belongs to \a parent, and the host may close or
+    /// delete it at any time.
     int ShowWindow(QWidget *parent, QRect &rect) override;
     int DoModal() override;
     void Hide() override;
     void FitSize(QRect &rect) override;
     bool IsReady() override;
-    /// May rely on nothing but the host's libraries. Gets the query layer, and with it the
-    /// configuration, and registers with the device.
+    /// Relies on the host's libraries only. Gets the query layer, which loads the configuration,
+    /// and registers with the device.
     int Init() override;
     int GetPluginType() override;
     QString GetCLSID() override;
@@ -55,27 +58,31 @@ public:
     bool IsAllowRelease() override;
     void Release() override;
     int GetLastError() override;
-    /// Takes the callbacks back from the device and gives back what Init() and the CDMA window
-    /// took.
+    /// Unregisters from the device and releases what Init() and ShowWindow() got. Relies on
+    /// nothing; windows that are open stay open.
     void OnDestroy() override;
+    /// Relies on nothing: without a window it does nothing. NOTIFY_CLOSE_WINDOWS closes the window
+    /// shown last, and releases the CDMA window's object if that window is visible.
     int Notify(unsigned int code, unsigned int argument1, unsigned int argument2) override;
     int QueryInterface(int identifier, QObject **object) override;
     bool ChangeLang(const QString &language) override;
 
-    /// The display text of a row, by the configured names of its tab and itself, read afresh.
-    /// \a value comes in null and is never left empty as long as the unknown text is not.
+    /// Reads the value of a row, by the configured names of its tab and of the row, and sets
+    /// *value, which must be a null string, to its display text. An empty text becomes the unknown
+    /// text.
     void getValueLabelVal(QString tabName, QString itemName, QString *value);
     QString getDeviceNetTabItemValue(QString itemName);
     QString getNetSetTabItemValue(QString itemName);
     QString getNetSetTabItemValueVer2(QString itemName);
     QString getSimTabItemValue(QString itemName);
 
-    /// Writes the report, every shown row read afresh, and tells of its success: 0, 3 when the file
-    /// cannot be opened, 13 without a window or after the end.
+    /// Reads every shown row afresh and writes the report. Shows a message and returns 0 on
+    /// success; returns 3 if the file cannot be opened, and 13 without a window or after
+    /// OnDestroy().
     int saveToFile(QString path);
 
-    /// The text of a resource key. Hand the key over as QString or QLatin1String: a plain literal
-    /// would choose the toolkit's tr(), which does not ask the host.
+    /// The text of a resource key. Pass the key as QString or QLatin1String: a string literal would
+    /// choose Qt's own tr(), which does not ask the host.
     QString tr(QString key);
 
 private Q_SLOTS:
@@ -107,8 +114,8 @@ private:
     DiagnosticsConfigParse *m_pConfigParse;
     DiagnosticsCdmaUI *m_pCdmaUI;
     int m_bDeviceAvailable;
-    // The widgets belong to the window, which can go at any time: those that are used after it was
-    // built are guarded.
+    // The widgets belong to the window, which can be deleted at any time: the pointers that are
+    // used after it was built are guarded.
     QPointer<ExtendDialog> m_pdialogDiagnostics;
     QPointer<QWidget> m_pwidgetDiagnostic;
     QVBoxLayout *m_pvboxLayoutMain;
@@ -118,7 +125,7 @@ private:
     QPushButton *m_ppushButtonSave;
     QPushButton *m_ppushButtonCancel;
     QPushButton *m_ppushButtonRefresh;
-    int *m_pTabFilled; ///< by index of the tab widget: 1 once the tab needs no reading any more
+    int *m_pTabFilled; ///< by index of the tab widget: 1 if the tab need not be read again
     int m_iTabFilledCount;
 };
 

@@ -13,11 +13,11 @@ class QObject;
 class QPushButton;
 class QWidget;
 
-/// What both windows do alike: the frame, the buttons, the showing. GUI thread.
+/// What both windows have in common: the frame and the buttons. GUI thread.
 class DiagnosticsWindow
 {
 public:
-    /// The host's frame for a window; null if there is no memory for it.
+    /// Creates the host's frame for a window; returns null if there is no memory for it.
     static ExtendDialog *createFrame(QWidget *parent);
 
     /// Whether the settings ask for a Save button; \a settings may be null.

@@ -7,10 +7,7 @@
 #include "DiagnosticsConfigParse.h"
 #include "PluginTest.h"
 
-#include <QApplication>
-#include <QLabel>
-#include <QPushButton>
-#include <QTabWidget>
+#include <QtWidgets>
 
 #include <cstdio>
 #include <cstdlib>
@@ -18,23 +15,25 @@
 /// The entry of libFuzzer.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
-/// One life of the plug-in. Nothing of it stays, so that no input sees an earlier one.
-class Session : PluginTest
+struct Application
 {
-public:
-    Session()
+    Application()
     {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         static int argc = 1;
         static char name[] = "fuzz";
         static char *argv[] = {name, nullptr};
         static QApplication application(argc, argv);
-        setUp();
     }
+};
 
+/// One life of the plug-in. Nothing of it stays, so that no input sees an earlier one.
+class Session : Application, PluginTest
+{
+public:
     ~Session()
     {
-        const QString warnings = tearDown().join(' ');
+        const QString warnings = end().join(' ');
         require(warnings.isEmpty(), qPrintable(warnings));
     }
 
@@ -49,7 +48,7 @@ public:
 
     void write(const QByteArray &configuration)
     {
-        m_host->write("DiagnosisConfig.xml", configuration);
+        m_host.write("DiagnosisConfig.xml", configuration);
     }
 
     const QList<TabDetails> &init()

@@ -9,39 +9,31 @@
 
 #include "SdkControl.h"
 
-#include <QPushButton>
 #include <QRect>
 #include <QRegularExpression>
 
 using namespace TestSupport;
 
-void PluginTest::setUp()
+PluginTest::PluginTest()
 {
-    m_log.reset(new LogCapture);
-    m_host.reset(new ConfiguredHost);
-    m_hostPlugins.reset(new HostPlugins);
     attachModem("wcdma");
     SdkControl::startRecording();
-    m_parent = new QWidget;
     m_parent->setGeometry(100, 120, 620, 500);
     m_parent->show();
-    m_plugin = new DiagnosticsUIPlugin;
 }
 
-QStringList PluginTest::tearDown()
+QStringList PluginTest::end()
 {
     delete m_parent;
     settle();
     delete m_plugin;
     DiagnosticsCdmaUI::DestroyInstance();
     release();
-    m_hostPlugins.reset();
-    m_host.reset();
     // Where there is no Save button, Qt says that it passes over it.
     static const QRegularExpression noSaveButton("^QLayout: Cannot add a null widget to QHBoxL.*");
-    const QStringList warnings = m_log->takeWarnings().replaceInStrings(noSaveButton, QString());
-    m_log.reset();
-    return warnings.filter(QRegularExpression("."));
+    return m_log.takeWarnings()
+        .replaceInStrings(noSaveButton, QString())
+        .filter(QRegularExpression("."));
 }
 
 void PluginTest::release()

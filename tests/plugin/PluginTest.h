@@ -9,17 +9,17 @@
 
 #include "HostPlugins.h"
 
-class QPushButton;
+#include <QPushButton>
 
 /// A plug-in in an English host with a window and a log, on the simulated WCDMA modem.
 class PluginTest
 {
-protected:
-    void setUp();
+public:
+    PluginTest();
 
     /// Ends all, both singletons included, so that what is then left is a leak. Returns the
     /// warnings.
-    QStringList tearDown();
+    QStringList end();
 
     /// Gives back all references to both singletons.
     static void release();
@@ -28,17 +28,18 @@ protected:
     int show();
 
     /// The path of a file in the plug-in's folder.
-    QString path(const QString &file) const { return m_host->folder() + file; }
+    QString path(const QString &file) const { return m_host.folder() + file; }
 
     /// A visible button by its object name without "DiagnosticsUIPlugin_pushButton" or, in the
     /// window of CDMA devices, "DiagnosticsUIPlugin_pushButtonCdma".
     QPushButton *button(const QString &name) const;
 
-    std::unique_ptr<TestSupport::LogCapture> m_log;
-    std::unique_ptr<TestSupport::ConfiguredHost> m_host;
-    std::unique_ptr<HostPlugins> m_hostPlugins;
-    QPointer<QWidget> m_parent;
-    QPointer<DiagnosticsUIPlugin> m_plugin;
+protected:
+    TestSupport::LogCapture m_log;
+    TestSupport::ConfiguredHost m_host;
+    HostPlugins m_hostPlugins;
+    QPointer<QWidget> m_parent{new QWidget};
+    QPointer<DiagnosticsUIPlugin> m_plugin{new DiagnosticsUIPlugin};
 };
 
 #endif

@@ -67,7 +67,7 @@ public:
     static void initMain();
 
 private Q_SLOTS:
-    void initTestCase() { HostCore::applyLook(*qApp); }
+    void initTestCase();
     void init();
     void cleanup();
     void play_data();
@@ -89,6 +89,15 @@ void ScriptTest::initMain()
 {
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("TZ", "XXX-5:30");
+}
+
+/// A count that is wrong shows with the first instances of all.
+void ScriptTest::initTestCase()
+{
+    HostCore::applyLook(*qApp);
+    Player first(m_sections);
+    QCOMPARE(first.play("references"), QStringList({"query layer 3", "store 1"}));
+    QCOMPARE(first.end(), QStringList());
 }
 
 void ScriptTest::init()
@@ -170,11 +179,11 @@ void ScriptTest::large()
     QCOMPARE(shown.last(), QString("APN = Unknown"));
 
     const int depth = 20000;
-    const QStringList store = m_player->play("xml <veltdoc><tab>" + rows.repeated(100) + "</tab>" +
+    const QStringList store = m_player->play("xml <veltdoc><tab>" + rows.repeated(10) + "</tab>" +
                                              QString("<a>").repeated(depth) + "<tab name='deep'/>" +
                                              QString("</a>").repeated(depth) + "</veltdoc>");
     QCOMPARE(store.value(0), QString("0"));
-    QCOMPARE(store.value(1).count("row 999:IDS_DIAGNOSE_APN:1"), 100);
+    QCOMPARE(store.value(1).count("row 999:IDS_DIAGNOSE_APN:1"), 10);
     QVERIFY(store.value(1).endsWith("} deep::1{}"));
 }
 

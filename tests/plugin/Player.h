@@ -634,7 +634,7 @@ private:
         {"presets", [this](A) { say(StandIns::pinPresets); }},
         {"value", [this](A a) { sayValue(a.section(", ", 0, 0), a.section(", ", 1)); }},
         {"load", [this](A a) { sayStore(store()->LoadFile(a)); }},
-        {"xml", [this](A a) { release(); write("test.xml", a.toLatin1()); act("load test.xml"); }},
+        {"xml", [this](A a) { restart(); write("test.xml", a.toLatin1()); act("load test.xml"); }},
     };
     // clang-format on
 };

@@ -33,11 +33,11 @@ VELT_ERROR unregisterCallback(const char *function, Kind kind, VELT_DEVICE_CALLB
 char digit(Answer &answer, NumberValue value)
 {
     const int32_t number = answer.number<int32_t>(value);
-    if (number == notTold)
-        return '?';
-    if (number < 0 || number > 9)
+    if (number >= 0 && number <= 9)
+        return static_cast<char>('0' + number);
+    if (number != notTold)
         answer.note(VELT_ERROR_FAILURE);
-    return static_cast<char>('0' + number);
+    return '?';
 }
 
 } // namespace

@@ -4,45 +4,71 @@
 #ifndef FUZZ_H
 #define FUZZ_H
 
-#include "DiagnosticsUIPlugin.h"
+#include "DiagnosticsConfigParse.h"
+#include "PluginTest.h"
 
-#include "TestSupport.h"
+#include <QtWidgets>
 
-#include <QPushButton>
+#include <cstdio>
+#include <cstdlib>
 
-#include <cstddef>
-#include <cstdint>
-
-/// The entry of libFuzzer; without it, replay.cpp calls it for the files of the corpus.
+/// The entry of libFuzzer.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 
-/// What both fuzz targets share.
-namespace Fuzz {
-
-/// Ends the program, as a find, unless the condition holds.
-void require(bool condition, const char *rule, const QString &detail = QString());
-
-/// The English host in which all inputs run; any warning of the toolkit is a find.
-TestSupport::ConfiguredHost &host();
-
-/// One life of the plug-in. Both singletons go with it, so that no input sees an earlier one.
-class Session
+struct Application
 {
-public:
-    Session();
-    ~Session();
-
-    /// What ShowWindow() says.
-    int show();
-    /// A button of the window by its object name, "DiagnosticsUIPlugin_pushButton" left out.
-    QPushButton *button(const char *name) const;
-    /// Presses a Save button, and gives what was written.
-    QByteArray save(const char *name);
-
-    DiagnosticsUIPlugin plugin;
-    QWidget *const parent;
+    Application()
+    {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static int argc = 1;
+        static char name[] = "fuzz";
+        static char *argv[] = {name, nullptr};
+        static QApplication application(argc, argv);
+    }
 };
 
-} // namespace Fuzz
+/// One life of the plug-in. Nothing of it stays, so that no input sees an earlier one.
+class Session : Application, PluginTest
+{
+public:
+    ~Session()
+    {
+        const QString warnings = end().join(' ');
+        require(warnings.isEmpty(), qPrintable(warnings));
+    }
+
+    /// Ends the program, as a find, unless the condition holds.
+    static void require(bool condition, const char *rule)
+    {
+        if (condition)
+            return;
+        std::fprintf(stderr, "Not so: %s\n", rule);
+        std::abort();
+    }
+
+    void write(const QByteArray &configuration)
+    {
+        m_host.write("DiagnosisConfig.xml", configuration);
+    }
+
+    const QList<TabDetails> &init()
+    {
+        m_plugin->Init();
+        return *DiagnosticsConfigParse::GetInstance()->GetTabInformation();
+    }
+
+    /// Opens the window, visits and refreshes each of its tabs. Returns the values' labels.
+    QList<QLabel *> use()
+    {
+        require(show() == 1, "the window opens");
+        auto *tabs = m_parent->findChild<QTabWidget *>();
+        for (int page = 0; page < (tabs ? tabs->count() : 1); ++page) {
+            if (tabs)
+                tabs->setCurrentIndex(page);
+            button("Refresh")->click();
+        }
+        return m_parent->findChildren<QLabel *>(QRegularExpression("Value$"));
+    }
+};
 
 #endif

@@ -4,49 +4,42 @@
 #ifndef PLUGINTEST_H
 #define PLUGINTEST_H
 
+#include "DiagnosticsUIPlugin.h"
 #include "TestSupport.h"
 
-#include <QObject>
+#include "modem/HostPlugins.h"
 
-class DiagnosticsUIPlugin;
-class QPushButton;
-class QTabWidget;
+#include <QPushButton>
 
 /// A plug-in in an English host with a window and a log, on the simulated WCDMA modem.
-class PluginTest : public QObject
+class PluginTest
 {
-    Q_OBJECT
+public:
+    PluginTest();
 
-protected:
-    /// An empty configuration stands for the shipped one.
-    void setUp(const QByteArray &configuration = QByteArray());
+    /// Ends all, both singletons included, so that what is then left is a leak. Returns the
+    /// warnings.
+    QStringList end();
 
-    /// Ends all, both singletons included, so that what is then left is a leak; there may have been
-    /// no warning.
-    void tearDown();
+    /// Gives back all references to both singletons.
+    static void release();
 
-    /// Writes the configuration, unless it is empty, initialises the plug-in and shows its window.
-    void open(const QByteArray &configuration = QByteArray());
-
-    /// What ShowWindow() says.
+    /// What ShowWindow() returns.
     int show();
 
-    QString path(const char *file) const;
-    QTabWidget *tabs() const;
+    /// The path of a file in the plug-in's folder.
+    QString path(const QString &file) const { return m_host.folder() + file; }
+
     /// A visible button by its object name without "DiagnosticsUIPlugin_pushButton" or, in the
     /// window of CDMA devices, "DiagnosticsUIPlugin_pushButtonCdma".
-    QPushButton *button(const char *name) const;
-    /// Compares lines; a difference leaves those there are in "<name>.actual" in the current
-    /// folder.
-    static void compare(const QString &name, const QStringList &actual,
-                        const QStringList &expected);
-    /// The same with the lines of a file beside the test.
-    static void compareWithGolden(const QString &file, const QStringList &lines);
+    QPushButton *button(const QString &name) const;
 
-    TestSupport::LogCapture *m_log = nullptr;
-    TestSupport::ConfiguredHost *m_host = nullptr;
-    QWidget *m_parent = nullptr;
-    DiagnosticsUIPlugin *m_plugin = nullptr;
+protected:
+    TestSupport::LogCapture m_log;
+    TestSupport::ConfiguredHost m_host;
+    HostPlugins m_hostPlugins;
+    QPointer<QWidget> m_parent{new QWidget};
+    QPointer<DiagnosticsUIPlugin> m_plugin{new DiagnosticsUIPlugin};
 };
 
 #endif

@@ -251,7 +251,7 @@ int main(int argc, char *argv[])
     HostCore::setLanguage(QStringLiteral(BENCH_DATA_DIR "/translations"), QStringLiteral("en"));
     HostCore::applyLook(application);
     HostCore::setPluginLibraryPath(QStringLiteral("."));
-    printLine("load a configuration of 10 x 1,000 rows", "ms", 1e3, 1.2, 50,
+    printLine("load a configuration of 10 x 1,000 rows", "ms", 1e3, 1.2, 200,
               [](bool product) { return seconds(1, [=] { product ? load("10") : walk("10"); }); });
     printLine("growth: a row of 100,000 against one of 1,000", "ns", 1e4, 1.1, 15,
               [](bool product) {

@@ -55,7 +55,7 @@ int main(int argc, char **argv)
     const QStringList arguments = application.arguments();
     if (arguments.size() < 3 || !texts.load(arguments[2]))
         return 1;
-    libraries = QFileInfo(arguments[1]).dir().filePath(QStringLiteral("../.."));
+    libraries = QFileInfo(arguments[1]).absoluteDir().filePath(QStringLiteral("../.."));
     QLibrary module(arguments[1]);
     const auto entry = reinterpret_cast<QObject *(*)()>(module.resolve("qt_plugin_instance"));
     auto *const plugin = entry ? qobject_cast<IUIPlugin *>(entry()) : nullptr;
@@ -65,9 +65,9 @@ int main(int argc, char **argv)
         return qCritical("%s", qPrintable(module.errorString())), 2;
     auto *const dialog = window.findChild<ExtendDialog *>();
     if (arguments.size() > 3) { // prints the rows, writes a picture and ends
-        auto *const tabs = dialog->findChild<QTabWidget *>();
-        for (int index = tabs->count() - 1; index >= 0; --index)
-            tabs->setCurrentIndex(index); // reads the values
+        for (auto *tabs : dialog->findChildren<QTabWidget *>())
+            for (int index = tabs->count() - 1; index >= 0; --index)
+                tabs->setCurrentIndex(index); // reads the values
         for (QLabel *label : dialog->findChildren<QLabel *>())
             QTextStream(stdout) << label->text() << '\n';
         QTimer::singleShot(0, dialog, [&] { dialog->grab().save(arguments[3]), dialog->close(); });

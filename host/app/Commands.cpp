@@ -4,12 +4,15 @@
 #include "Commands.h"
 
 #include "ExitCode.h"
+#include "HostCore.h"
 #include "HostFiles.h"
 #include "Options.h"
 #include "config/ConfigCheck.h"
+#include "config/ConfigFile.h"
 #include "modem/HostPlugins.h"
 #include "modem/ModemSource.h"
 #include "report/Report.h"
+#include "window/Diagnostics.h"
 #include "window/MainWindow.h"
 #include "window/PluginLoader.h"
 
@@ -38,48 +41,67 @@ ExitCode exitCode(PluginLoader::State reached)
     return Success;
 }
 
-QByteArray content(const QList<ShownPage> &pages, const ModemSource &modem, const Options &options)
+int failWithoutWindow()
 {
-    if (options.print)
-        return Report::rows(pages).toUtf8();
-    const Report report(pages,
-                        {HostFiles::path(HostFiles::Configuration), options.language, modem.name(),
-                         modem.problem()},
-                        options.mask ? Report::Masked : Report::Unmasked);
-    return options.json ? report.json() : report.text().toUtf8();
+    return fail(WindowNotOpened,
+                QStringLiteral("the diagnostics window could not be opened (--log tells why)"));
 }
 
-/// Opens the diagnostics window, and does with it what \a options ask for.
-int showDiagnostics(MainWindow &window, const ModemSource &modem, const Options &options)
+int writePicture(QWidget *window, const QString &fileName)
 {
-    if (!window.openDiagnostics())
-        return fail(WindowNotOpened, QStringLiteral("the diagnostics window could not be opened "
-                                                    "(--log tells why)"));
+    QCoreApplication::processEvents();
+    const bool named = !QFileInfo(fileName).suffix().isEmpty();
+    if (!window || !window->grab().save(fileName, named ? nullptr : "PNG"))
+        return fail(FileNotWritten, QStringLiteral("cannot write the picture %1").arg(fileName));
+    return Success;
+}
+
+/// Opens the diagnostics window on the tab that \a options ask for.
+int openTab(const Options &options, bool isOpen)
+{
+    if (!isOpen)
+        return failWithoutWindow();
     const DiagnosticsReader reader;
     if (!options.tab.isNull() && !reader.selectTab(options.tab))
         return failUnknown("tab", options.tab, reader.tabNames());
+    return Success;
+}
+
+/// Writes what \a options ask for, without the host's window.
+int write(Diagnostics &diagnostics, const ModemSource &modem, const Options &options)
+{
+    const bool isRead = options.print || options.report;
+    Report::Content content;
+    if (isRead && !diagnostics.read(Diagnostics::AwaitSignal, &content))
+        return failWithoutWindow();
+    if (!options.tab.isNull() || !options.screenshot.isNull()) {
+        const int code = openTab(options, diagnostics.open());
+        if (code != Success)
+            return code;
+    }
+    if (!isRead)
+        content.verdict = modem.verdict();
+    const Report report(content, options.mask ? Report::Masked : Report::Unmasked);
+    const QByteArray text = options.print  ? Report::rows(content.pages).toUtf8()
+                            : options.json ? report.json()
+                                           : report.text().toUtf8();
     QString error;
-    if ((options.print || options.report) &&
-        !Report::write(content(reader.read(), modem, options), options.reportFile, &error))
+    if (isRead && !Report::write(text, options.reportFile, &error))
         return fail(FileNotWritten, error);
     if (!options.screenshot.isNull()) {
-        QCoreApplication::processEvents();
-        const bool named = !QFileInfo(options.screenshot).suffix().isEmpty();
-        if (!reader.window() ||
-            !reader.window()->grab().save(options.screenshot, named ? nullptr : "PNG"))
-            return fail(FileNotWritten,
-                        QStringLiteral("cannot write the picture %1").arg(options.screenshot));
+        const int code = writePicture(DiagnosticsReader().window(), options.screenshot);
+        if (code != Success)
+            return code;
     }
-    return Success;
+    return content.verdict.noModem ? fail(NoModem, content.verdict.text) : Success;
 }
 
 } // namespace
 
-int Commands::listModems(const ModemSource &modem)
+int Commands::print(const QString &text)
 {
-    for (const QString &name : modem.names())
-        std::puts(qUtf8Printable(name));
-    return Success;
+    QString error;
+    return Report::write(text.toUtf8(), QString(), &error) ? Success : fail(FileNotWritten, error);
 }
 
 int Commands::checkConfig(const QString &fileName)
@@ -89,28 +111,37 @@ int Commands::checkConfig(const QString &fileName)
     if (!ConfigCheck::run(fileName, HostFiles::path(HostFiles::ConfigurationSchema), &findings,
                           &error))
         return fail(FileNotRead, error);
+    QString lines;
     for (const QString &finding : findings)
-        std::printf("%s:%s\n", qUtf8Printable(fileName), qUtf8Printable(finding));
-    return findings.isEmpty() ? Success : ConfigHasFindings;
+        lines += fileName + QLatin1Char(':') + finding + QLatin1Char('\n');
+    const int code = print(lines);
+    return code == Success && !findings.isEmpty() ? ConfigHasFindings : code;
 }
 
 int Commands::show(const ModemSource &modem, const Options &options)
 {
+    const QString configuration = HostFiles::path(HostFiles::Configuration);
+    QString libraries = HostFiles::path(HostFiles::Libraries);
+    if (ConfigFile::isRefused(configuration)) {
+        std::fprintf(stderr, "diagnosis-host: %s: %s\n", qUtf8Printable(configuration),
+                     qUtf8Printable(ConfigFile::description(configuration)));
+        libraries += QStringLiteral("/none"); // where the plug-in finds no configuration
+    }
+    HostCore::setPluginLibraryPath(libraries);
     const HostPlugins hostPlugins;
     PluginLoader plugin(HostFiles::path(HostFiles::Plugin));
     if (!plugin.start())
         return fail(exitCode(plugin.state()), plugin.error());
 
-    if (!modem.problem().isEmpty())
-        std::fprintf(stderr, "diagnosis-host: %s\n", qUtf8Printable(modem.problem()));
-    MainWindow window(modem, plugin);
+    Diagnostics diagnostics(modem, plugin, configuration, options.language);
+    if (options.endsByItself())
+        return write(diagnostics, modem, options);
+    MainWindow window(modem, diagnostics);
     window.show();
     if (options.open) {
-        const int code = showDiagnostics(window, modem, options);
-        if (code != Success || options.endsByItself()) {
-            window.close();
+        const int code = openTab(options, window.openDiagnostics());
+        if (code != Success)
             return code;
-        }
     }
     return QApplication::exec();
 }

@@ -12,13 +12,14 @@ struct Options;
 /// of a failure.
 namespace Commands {
 
-int listModems(const ModemSource &modem);
+/// Prints a text to standard output.
+int print(const QString &text);
 
 /// Prints the findings in a configuration.
 int checkConfig(const QString &fileName);
 
-/// Starts the plug-in, opens the windows and does with them what \a options ask for. Returns when
-/// that is done, or when the user has closed the host's window.
+/// Starts the plug-in and shows the host's window, or does what \a options ask for instead. Returns
+/// when that is done, or when the user has closed the window.
 int show(const ModemSource &modem, const Options &options);
 
 /// The same where nobody can see the windows and \a options would keep them open: prints all values

@@ -17,7 +17,8 @@ enum ExitCode
     WindowNotOpened = 5,
     FileNotWritten = 6,
     ConfigHasFindings = 7,
-    FileNotRead = 8
+    FileNotRead = 8,
+    NoModem = 9
 };
 
 /// Prints the reason of a failure on standard error. Returns \a code.

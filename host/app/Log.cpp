@@ -12,6 +12,7 @@
 namespace {
 
 QFile s_file;
+bool s_incomplete = false;
 /// Threads of libsdk write messages, too.
 QMutex s_mutex;
 
@@ -22,8 +23,11 @@ void write(QtMsgType type, const QMessageLogContext &, const QString &message)
         return;
     const QByteArray line = message.toLocal8Bit() + '\n';
     const QMutexLocker lock(&s_mutex);
-    if (s_file.isOpen())
-        s_file.write(line);
+    if (s_file.isOpen() && s_file.write(line) != line.size() && !s_incomplete) {
+        s_incomplete = true;
+        std::fprintf(stderr, "diagnosis-host: the log is incomplete: %s\n",
+                     qUtf8Printable(s_file.errorString()));
+    }
     const bool harmless = type == QtDebugMsg || type == QtInfoMsg;
     if (!harmless && s_file.handle() != fileno(stderr))
         std::fputs(line.constData(), stderr);

@@ -3,8 +3,7 @@
 
 #include "Options.h"
 
-#include "ExitCode.h"
-
+#include <QByteArrayList>
 #include <QCommandLineParser>
 
 #include <algorithm>
@@ -22,7 +21,8 @@ const char Description[] = "Host of the diagnostics plug-in, on a simulated or a
                            "  5  the diagnostics window could not be opened\n"
                            "  6  a file could not be written\n"
                            "  7  the configuration has faults, which are listed\n"
-                           "  8  the configuration or its schema could not be read";
+                           "  8  the configuration, its schema or a translation could not be read\n"
+                           "  9  there is no modem service or no modem, or it does not answer";
 
 struct KnownOption
 {
@@ -35,8 +35,8 @@ struct KnownOption
 const KnownOption KnownOptions[] = {
     {"modem", "name",
      "Attach this modem: a simulated one, \"modemmanager\" for the first modem of the system's service, "
-     "\"modemmanager:1\" for the second, or \"auto\" (the default) for the service's where there is one "
-     "and a simulated one otherwise."},
+     "\"modemmanager:1\" for the second, or \"auto\" (the default) for the service's; a window then takes a "
+     "simulated one if there is none."},
     {"list-modems", "", "List the modems and exit."},
     {"language", "name", "Show texts in this language (default: the system's, else English)."},
     {"open", "", "Open the diagnostics window at once."},
@@ -58,9 +58,10 @@ const KnownOption KnownOptions[] = {
 
 bool Options::needNoScreen(int count, const char *const *arguments)
 {
-    return std::any_of(arguments, arguments + count, [](const char *argument) {
-        return qstrcmp(argument, "--report") == 0 ||
-               QByteArray(argument).startsWith("--check-config");
+    const QByteArrayList options = {"--report", "--list-modems", "--help", "-h", "--version",
+                                    "-v",       "--check-config"};
+    return std::any_of(arguments, arguments + count, [&options](const char *argument) {
+        return options.contains(QByteArray(argument).split('=').constFirst());
     });
 }
 
@@ -75,7 +76,9 @@ bool Options::parse(const QStringList &arguments, QString *error)
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this help and exit."));
     parser.addOption(help);
-    const QCommandLineOption version = parser.addVersionOption();
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("Show the version and exit."));
+    parser.addOption(version);
     parser.addPositionalArgument(
         QStringLiteral("file"),
         QStringLiteral("Where the report goes; \"-\" stands for standard output."),
@@ -85,9 +88,12 @@ bool Options::parse(const QStringList &arguments, QString *error)
         return false;
     }
     if (parser.isSet(help))
-        parser.showHelp(Success);
-    if (parser.isSet(version))
-        parser.showVersion();
+        information = parser.helpText();
+    else if (parser.isSet(version))
+        information = QCoreApplication::applicationName() + QLatin1Char(' ') +
+                      QCoreApplication::applicationVersion() + QLatin1Char('\n');
+    if (!information.isNull())
+        return true;
 
     const auto isSet = [&parser](const char *name) { return parser.isSet(QLatin1String(name)); };
     const auto value = [&parser, isSet](const char *name, const char *otherwise = nullptr) {

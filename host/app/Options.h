@@ -10,8 +10,8 @@
 /// The options of the command line. Texts that were not given are null.
 struct Options
 {
-    /// Reads the arguments. Returns false, with the reason in *\a error, if they are wrong. Ends
-    /// the program if they ask for help or the version.
+    /// Reads the arguments. Returns false, with the reason in *\a error, if they are wrong. If
+    /// they ask for help or the version, nothing but \a information is set.
     bool parse(const QStringList &arguments, QString *error);
 
     /// Whether the arguments ask for something that shows no window. Can be called before the
@@ -21,6 +21,7 @@ struct Options
     /// Whether the program ends without its user closing a window.
     bool endsByItself() const { return print || report || !screenshot.isNull(); }
 
+    QString information; ///< the help or the version, to be printed
     QString modem;
     QString language;
     QString log;

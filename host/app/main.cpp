@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 
 #include "Commands.h"
-#include "Display.h"
 #include "ExitCode.h"
 #include "HostCore.h"
 #include "HostFiles.h"
 #include "Log.h"
 #include "Options.h"
+#include "Platform.h"
 #include "modem/ModemSource.h"
 
 #include <QApplication>
@@ -18,7 +18,7 @@
 
 int main(int argc, char *argv[])
 {
-    Display::choose(Options::needNoScreen(argc, argv));
+    Platform::choose(Options::needNoScreen(argc, argv));
     Log::install();
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
@@ -31,28 +31,35 @@ int main(int argc, char *argv[])
     if (!options.parse(QApplication::arguments(), &error))
         return fail(WrongUsage, error);
 
+    if (!options.information.isNull())
+        return Commands::print(options.information);
+
     ModemSource modem(HostFiles::path(HostFiles::Modems));
     if (options.listModems)
-        return Commands::listModems(modem);
+        return Commands::print(modem.names().join(QLatin1Char('\n')) + QLatin1Char('\n'));
     if (!options.log.isNull() && !Log::open(options.log))
         return fail(FileNotWritten, QStringLiteral("cannot write the log %1").arg(options.log));
 
     const QString translations = HostFiles::path(HostFiles::Translations);
     if (options.language.isNull())
         options.language = HostCore::systemLanguage(translations);
+    const QStringList languages = HostCore::languages(translations);
+    if (!languages.contains(options.language))
+        return failUnknown("language", options.language, languages);
     if (!HostCore::setLanguage(translations, options.language))
-        return failUnknown("language", options.language, HostCore::languages(translations));
+        return fail(FileNotRead, QStringLiteral("the translation %1/host_%2.qm is broken")
+                                     .arg(translations, options.language));
     if (!options.configFile.isNull())
         return Commands::checkConfig(options.configFile);
 
-    HostCore::setPluginLibraryPath(HostFiles::path(HostFiles::Libraries));
     HostCore::setSettingsFile(HostFiles::path(HostFiles::Settings));
     HostCore::applyLook(application);
-    if (!modem.attach(options.modem, &error))
+    const bool isSeen = !options.endsByItself() && !Platform::isMissing();
+    if (!modem.attach(options.modem, isSeen ? ModemSource::Replaced : ModemSource::Reported,
+                      &error))
         return fail(WrongUsage, error);
-    const int code = Display::isMissing() && !options.endsByItself()
-                         ? Commands::showUnseen(modem, options)
-                         : Commands::show(modem, options);
+    const int code = isSeen || options.endsByItself() ? Commands::show(modem, options)
+                                                      : Commands::showUnseen(modem, options);
     if (!modem.detach()) {
         std::fflush(nullptr);
         std::_Exit(code);

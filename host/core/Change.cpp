@@ -6,8 +6,10 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QLocale>
 #include <QTranslator>
+#include <QXmlStreamReader>
 
 #include <memory>
 
@@ -78,4 +80,18 @@ QString HostCore::systemLanguage(const QString &folder)
 QString HostCore::pluginText(const QString &key)
 {
     return Change::tr(key, QStringLiteral("DiagnosisPlugin"));
+}
+
+QStringList HostCore::resourceKeys()
+{
+    QFile file(QStringLiteral(":/diagnosis-host/english.ts"));
+    file.open(QIODevice::ReadOnly);
+    QXmlStreamReader reader(&file);
+    QStringList keys;
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement &&
+            reader.name() == QLatin1String("source"))
+            keys.append(reader.readElementText());
+    }
+    return keys;
 }

@@ -2,16 +2,29 @@
 // SPDX-License-Identifier: MIT
 
 #include "core/ExtendDialog.h"
+#include "HostCore.h"
 
 #include <QCloseEvent>
 #include <QPointer>
 #include <QVBoxLayout>
+
+namespace {
+
+bool s_unseen = false;
+
+} // namespace
+
+void HostCore::setDialogsUnseen(bool unseen)
+{
+    s_unseen = unseen;
+}
 
 ExtendDialog::ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int /*widgetType*/)
     : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | flags),
       m_layout(new QVBoxLayout(this)), m_content(nullptr), m_ended(false)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
+    setAttribute(Qt::WA_DontShowOnScreen, s_unseen);
 }
 
 ExtendDialog::~ExtendDialog()

@@ -39,12 +39,18 @@ CORE_EXPORT QString systemLanguage(const QString &folder);
 /// The diagnostics plug-in's text for a resource key.
 CORE_EXPORT QString pluginText(const QString &key);
 
+/// The resource keys that have a text.
+CORE_EXPORT QStringList resourceKeys();
+
 /// Sets what Startup::GetPluginContainer() returns. May be null. Not owned.
 CORE_EXPORT void setPluginContainer(PluginContainer *container);
 
 /// Sets the host's font, style and spacing. With them a page of 15 rows fits the fixed size of the
 /// diagnostics window.
 CORE_EXPORT void applyLook(QApplication &application);
+
+/// Sets whether dialogs that are made from now on stay off the screen, because they are only read.
+CORE_EXPORT void setDialogsUnseen(bool unseen);
 
 /// The host's container. It forgets a plug-in that is deleted.
 class CORE_EXPORT PluginRegister : public PluginContainer

@@ -54,14 +54,17 @@ std::string Call::describe(VELT_DEVICE_CALLBACK callback)
     return callback ? "callback" : "null";
 }
 
-void Call::record(const std::vector<std::string> &inputs) const
+VELT_ERROR Call::recorded(VELT_ERROR result) const
 {
+    if (!m_recording)
+        return result;
     std::string arguments;
-    for (const std::string &input : inputs)
+    for (const std::string &input : m_inputs)
         arguments += (arguments.empty() ? "" : ", ") + input;
     Library &library = Library::instance();
     std::lock_guard<std::mutex> lock(library.mutex);
-    library.record.push_back({m_function, arguments});
+    library.record.push_back({m_function, arguments, result});
+    return result;
 }
 
 std::shared_ptr<Modem> Call::pluggedModem()

@@ -78,10 +78,11 @@ class Call
 public:
     /// \a inputs are the in-arguments, for the record of calls.
     template <typename... Inputs>
-    explicit Call(const char *function, const Inputs &...inputs) : m_function(function)
+    explicit Call(const char *function, const Inputs &...inputs)
+        : m_function(function), m_recording(Library::instance().recording)
     {
-        if (Library::instance().recording)
-            record({describe(inputs)...});
+        if (m_recording)
+            m_inputs = {describe(inputs)...};
     }
 
     /// The result of a function that asks the modem. \a body takes an Answer and returns the result
@@ -91,7 +92,7 @@ public:
     {
         const std::shared_ptr<Modem> modem = pluggedModem();
         if (!modem)
-            return VELT_ERROR_NO_DEVICE;
+            return recorded(VELT_ERROR_NO_DEVICE);
         return result([&] {
             Answer answer(*modem);
             return body(answer);
@@ -104,20 +105,23 @@ public:
     {
         const SdkControl::Result set = takeResult();
         if (set.outputs == SdkControl::KeepOutputs)
-            return set.code;
+            return recorded(set.code);
         const VELT_ERROR result = body();
-        return set.code == VELT_SUCCESS ? result : set.code;
+        return recorded(set.code == VELT_SUCCESS ? result : set.code);
     }
 
 private:
     static std::string describe(int32_t number);
     static std::string describe(const char *text);
     static std::string describe(VELT_DEVICE_CALLBACK callback);
-    void record(const std::vector<std::string> &inputs) const;
+    /// Records the call, where calls are recorded. Returns \a result.
+    VELT_ERROR recorded(VELT_ERROR result) const;
     static std::shared_ptr<Modem> pluggedModem();
     SdkControl::Result takeResult() const;
 
     const char *m_function;
+    const bool m_recording;
+    std::vector<std::string> m_inputs;
 };
 
 /// The whole of a function that gives one text.

@@ -85,19 +85,20 @@ SDK_EXPORT bool waitForEvents(int milliseconds);
 
 // ---- Record of calls ----
 
-/// One call of an SDK function.
+/// One call of an SDK function that has returned.
 struct RecordedCall
 {
     std::string function;
     /// The in-arguments, separated by ", ": numbers in decimal, texts in double quotes, a callback
     /// as "callback". Empty where the function has none.
     std::string arguments;
+    VELT_ERROR result;
 };
 
 /// Starts a new record of the calls of all SDK functions. Nothing is recorded before.
 SDK_EXPORT void startRecording();
 
-/// The calls recorded since startRecording(), in their order.
+/// The calls recorded since startRecording(), in the order of their returns.
 SDK_EXPORT std::vector<RecordedCall> recordedCalls();
 
 /// Ends the record and drops it.

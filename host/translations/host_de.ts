@@ -313,31 +313,8 @@
         <translation>Diagnosehost</translation>
     </message>
     <message>
-        <source>&amp;Diagnostics</source>
-        <translation>&amp;Diagnose</translation>
-    </message>
-    <message>
-        <source>The diagnostics window could not be opened.</source>
-        <translation>Das Diagnosefenster konnte nicht geöffnet werden.</translation>
-    </message>
-</context>
-<context>
-    <name>ModemWindow</name>
-    <message>
-        <source>&amp;Plug in</source>
-        <translation>&amp;Einstecken</translation>
-    </message>
-    <message>
-        <source>&amp;Unplug</source>
-        <translation>&amp;Abziehen</translation>
-    </message>
-    <message>
         <source>Modem</source>
         <translation>Modem</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
     </message>
     <message>
         <source>Description</source>
@@ -348,12 +325,362 @@
         <translation>Zustand</translation>
     </message>
     <message>
+        <source>Network</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>Eingesteckt</translation>
     </message>
     <message>
         <source>Unplugged</source>
         <translation>Abgezogen</translation>
+    </message>
+    <message>
+        <source>&amp;Plug in</source>
+        <translation>&amp;Einstecken</translation>
+    </message>
+    <message>
+        <source>&amp;Unplug</source>
+        <translation>&amp;Abziehen</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation>&amp;Diagnose</translation>
+    </message>
+    <message>
+        <source>&amp;Copy report</source>
+        <translation>Bericht &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save report…</source>
+        <translation>Bericht &amp;speichern…</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Text (*.txt)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide identifiers</source>
+        <translation>Kennungen &amp;verbergen</translation>
+    </message>
+    <message>
+        <source>Reports do not tell what identifies the device, its user or its place.</source>
+        <translation>Berichte enthalten nichts, woran Gerät, Benutzer oder Standort zu erkennen sind.</translation>
+    </message>
+    <message>
+        <source>A simulated modem takes its place.</source>
+        <translation>Ein simuliertes Modem tritt an seine Stelle.</translation>
+    </message>
+    <message>
+        <source>The diagnostics window could not be opened.</source>
+        <translation>Das Diagnosefenster konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The report was copied.</source>
+        <translation>Der Bericht wurde kopiert.</translation>
+    </message>
+    <message>
+        <source>The report was saved.</source>
+        <translation>Der Bericht wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>The report was not saved: %1</source>
+        <translation>Der Bericht wurde nicht gespeichert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Verdict</name>
+    <message>
+        <source>The system's message bus does not answer.</source>
+        <translation>Der Nachrichtenbus des Systems antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>ModemManager is not running.</source>
+        <translation>ModemManager läuft nicht.</translation>
+    </message>
+    <message>
+        <source>ModemManager has not answered yet.</source>
+        <translation>ModemManager hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>ModemManager has not answered for %1 seconds.</source>
+        <translation>ModemManager antwortet seit %1 Sekunden nicht.</translation>
+    </message>
+    <message>
+        <source>The modem does not answer.</source>
+        <translation>Das Modem antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>ModemManager has no modem.</source>
+        <translation>ModemManager kennt kein Modem.</translation>
+    </message>
+    <message>
+        <source>ModemManager has no modem with the number %1.</source>
+        <translation>ModemManager kennt kein Modem mit der Nummer %1.</translation>
+    </message>
+    <message>
+        <source>No modem is plugged in.</source>
+        <translation>Es ist kein Modem eingesteckt.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its SIM has an error.</source>
+        <translation>Das Modem ist ausgefallen: Seine SIM-Karte hat einen Fehler.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its capabilities are unknown.</source>
+        <translation>Das Modem ist ausgefallen: Seine Fähigkeiten sind unbekannt.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its eSIM has no profile.</source>
+        <translation>Das Modem ist ausgefallen: Seine eSIM hat kein Profil.</translation>
+    </message>
+    <message>
+        <source>The modem failed, and does not say why.</source>
+        <translation>Das Modem ist ausgefallen und nennt keinen Grund.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the modem.</source>
+        <translation>Im Modem ist keine SIM-Karte.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN (tries left: %1).</source>
+        <translation>Die SIM-Karte verlangt ihre PIN (verbleibende Versuche: %1).</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>Die SIM-Karte verlangt ihre PIN.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK (tries left: %1).</source>
+        <translation>Die SIM-Karte verlangt ihre PUK (verbleibende Versuche: %1).</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>Die SIM-Karte verlangt ihre PUK.</translation>
+    </message>
+    <message>
+        <source>The SIM is blocked: no tries are left for its PUK.</source>
+        <translation>Die SIM-Karte ist gesperrt: Für ihre PUK ist kein Versuch mehr übrig.</translation>
+    </message>
+    <message>
+        <source>The modem is locked and asks for a code other than the PIN.</source>
+        <translation>Das Modem ist gesperrt und verlangt einen anderen Code als die PIN.</translation>
+    </message>
+    <message>
+        <source>The modem is switched off.</source>
+        <translation>Das Modem ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>The modem is in low-power mode: its radio is off.</source>
+        <translation>Das Modem ist im Energiesparmodus: Sein Funkteil ist aus.</translation>
+    </message>
+    <message>
+        <source>The modem is disabled.</source>
+        <translation>Das Modem ist deaktiviert.</translation>
+    </message>
+    <message>
+        <source>The modem is starting.</source>
+        <translation>Das Modem startet.</translation>
+    </message>
+    <message>
+        <source>The network refuses the modem (cause: %1).</source>
+        <translation>Das Netz weist das Modem ab (Ursache: %1).</translation>
+    </message>
+    <message>
+        <source>The network refuses the modem.</source>
+        <translation>Das Netz weist das Modem ab.</translation>
+    </message>
+    <message>
+        <source>The modem is searching for a network.</source>
+        <translation>Das Modem sucht ein Netz.</translation>
+    </message>
+    <message>
+        <source>The modem is not registered with a network.</source>
+        <translation>Das Modem ist in keinem Netz registriert.</translation>
+    </message>
+    <message>
+        <source>The modem is registered, but not attached to the packet service.</source>
+        <translation>Das Modem ist registriert, aber nicht an den Paketdienst angebunden.</translation>
+    </message>
+    <message>
+        <source>The modem is registered, but there is no connection.</source>
+        <translation>Das Modem ist registriert, aber es besteht keine Verbindung.</translation>
+    </message>
+    <message>
+        <source>The modem is connected, but its signal is weak (%1).</source>
+        <translation>Das Modem ist verbunden, aber sein Signal ist schwach (%1).</translation>
+    </message>
+    <message>
+        <source>The modem is connected.</source>
+        <translation>Das Modem ist verbunden.</translation>
+    </message>
+    <message>
+        <source>The modem does not tell enough for a verdict.</source>
+        <translation>Das Modem teilt zu wenig für einen Befund mit.</translation>
+    </message>
+</context>
+<context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>Funk und Dienst</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netz</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Zelle</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>SIM-Steckplatz</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>Grund des Ausfalls</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Betriebsart</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>Verlangter Code</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>Verbleibende Versuche</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Hersteller</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>Firmwarestand</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>Gerätekennung</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>Fähigkeiten</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Betriebsmodi</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>Frequenzbänder</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>Zugangstechniken</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>Signalqualität</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>Registrierung</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>Ursache der Abweisung</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>Paketdienst</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>Betreibercode</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>Betreibername</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>Zellkennung</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Aktiv</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>Adressfamilie</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>IPv4-Verfahren</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>IPv4-Adresse</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>IPv6-Verfahren</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>IPv6-Adresse</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Empfangen</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Gesendet</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>Letzter Fehler</translation>
     </message>
 </context>
 </TS>

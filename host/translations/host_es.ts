@@ -313,31 +313,8 @@
         <translation>Host de diagnóstico</translation>
     </message>
     <message>
-        <source>&amp;Diagnostics</source>
-        <translation>&amp;Diagnóstico</translation>
-    </message>
-    <message>
-        <source>The diagnostics window could not be opened.</source>
-        <translation>No se ha podido abrir la ventana de diagnóstico.</translation>
-    </message>
-</context>
-<context>
-    <name>ModemWindow</name>
-    <message>
-        <source>&amp;Plug in</source>
-        <translation>&amp;Conectar</translation>
-    </message>
-    <message>
-        <source>&amp;Unplug</source>
-        <translation>&amp;Desconectar</translation>
-    </message>
-    <message>
         <source>Modem</source>
         <translation>Módem</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Nombre</translation>
     </message>
     <message>
         <source>Description</source>
@@ -348,12 +325,362 @@
         <translation>Estado</translation>
     </message>
     <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Señal</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
-        <translation>Conectado</translation>
+        <translation>Enchufado</translation>
     </message>
     <message>
         <source>Unplugged</source>
-        <translation>Desconectado</translation>
+        <translation>Desenchufado</translation>
+    </message>
+    <message>
+        <source>&amp;Plug in</source>
+        <translation>&amp;Enchufar</translation>
+    </message>
+    <message>
+        <source>&amp;Unplug</source>
+        <translation>Desench&amp;ufar</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation>&amp;Diagnóstico</translation>
+    </message>
+    <message>
+        <source>&amp;Copy report</source>
+        <translation>&amp;Copiar informe</translation>
+    </message>
+    <message>
+        <source>&amp;Save report…</source>
+        <translation>&amp;Guardar informe…</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Guardar informe</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Texto (*.txt)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide identifiers</source>
+        <translation>&amp;Ocultar identificadores</translation>
+    </message>
+    <message>
+        <source>Reports do not tell what identifies the device, its user or its place.</source>
+        <translation>Los informes no contienen nada que identifique el dispositivo, a su usuario o su ubicación.</translation>
+    </message>
+    <message>
+        <source>A simulated modem takes its place.</source>
+        <translation>Un módem simulado ocupa su lugar.</translation>
+    </message>
+    <message>
+        <source>The diagnostics window could not be opened.</source>
+        <translation>No se ha podido abrir la ventana de diagnóstico.</translation>
+    </message>
+    <message>
+        <source>The report was copied.</source>
+        <translation>El informe se ha copiado.</translation>
+    </message>
+    <message>
+        <source>The report was saved.</source>
+        <translation>El informe se ha guardado.</translation>
+    </message>
+    <message>
+        <source>The report was not saved: %1</source>
+        <translation>El informe no se ha guardado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Verdict</name>
+    <message>
+        <source>The system's message bus does not answer.</source>
+        <translation>El bus de mensajes del sistema no responde.</translation>
+    </message>
+    <message>
+        <source>ModemManager is not running.</source>
+        <translation>ModemManager no está en ejecución.</translation>
+    </message>
+    <message>
+        <source>ModemManager has not answered yet.</source>
+        <translation>ModemManager todavía no ha respondido.</translation>
+    </message>
+    <message>
+        <source>ModemManager has not answered for %1 seconds.</source>
+        <translation>ModemManager no responde desde hace %1 segundos.</translation>
+    </message>
+    <message>
+        <source>The modem does not answer.</source>
+        <translation>El módem no responde.</translation>
+    </message>
+    <message>
+        <source>ModemManager has no modem.</source>
+        <translation>ModemManager no encuentra ningún módem.</translation>
+    </message>
+    <message>
+        <source>ModemManager has no modem with the number %1.</source>
+        <translation>ModemManager no tiene ningún módem con el número %1.</translation>
+    </message>
+    <message>
+        <source>No modem is plugged in.</source>
+        <translation>No hay ningún módem enchufado.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its SIM has an error.</source>
+        <translation>El módem ha fallado: su SIM tiene un error.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its capabilities are unknown.</source>
+        <translation>El módem ha fallado: se desconocen sus capacidades.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its eSIM has no profile.</source>
+        <translation>El módem ha fallado: su eSIM no tiene ningún perfil.</translation>
+    </message>
+    <message>
+        <source>The modem failed, and does not say why.</source>
+        <translation>El módem ha fallado y no indica el motivo.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the modem.</source>
+        <translation>No hay ninguna tarjeta SIM en el módem.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN (tries left: %1).</source>
+        <translation>La SIM pide su PIN (intentos restantes: %1).</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>La SIM pide su PIN.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK (tries left: %1).</source>
+        <translation>La SIM pide su PUK (intentos restantes: %1).</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>La SIM pide su PUK.</translation>
+    </message>
+    <message>
+        <source>The SIM is blocked: no tries are left for its PUK.</source>
+        <translation>La SIM está bloqueada: no quedan intentos para su PUK.</translation>
+    </message>
+    <message>
+        <source>The modem is locked and asks for a code other than the PIN.</source>
+        <translation>El módem está bloqueado y pide un código distinto del PIN.</translation>
+    </message>
+    <message>
+        <source>The modem is switched off.</source>
+        <translation>El módem está apagado.</translation>
+    </message>
+    <message>
+        <source>The modem is in low-power mode: its radio is off.</source>
+        <translation>El módem está en modo de bajo consumo: su radio está apagada.</translation>
+    </message>
+    <message>
+        <source>The modem is disabled.</source>
+        <translation>El módem está deshabilitado.</translation>
+    </message>
+    <message>
+        <source>The modem is starting.</source>
+        <translation>El módem se está iniciando.</translation>
+    </message>
+    <message>
+        <source>The network refuses the modem (cause: %1).</source>
+        <translation>La red rechaza el módem (causa: %1).</translation>
+    </message>
+    <message>
+        <source>The network refuses the modem.</source>
+        <translation>La red rechaza el módem.</translation>
+    </message>
+    <message>
+        <source>The modem is searching for a network.</source>
+        <translation>El módem está buscando una red.</translation>
+    </message>
+    <message>
+        <source>The modem is not registered with a network.</source>
+        <translation>El módem no está registrado en ninguna red.</translation>
+    </message>
+    <message>
+        <source>The modem is registered, but not attached to the packet service.</source>
+        <translation>El módem está registrado, pero no conectado al servicio de paquetes.</translation>
+    </message>
+    <message>
+        <source>The modem is registered, but there is no connection.</source>
+        <translation>El módem está registrado, pero no hay conexión.</translation>
+    </message>
+    <message>
+        <source>The modem is connected, but its signal is weak (%1).</source>
+        <translation>El módem está conectado, pero su señal es débil (%1).</translation>
+    </message>
+    <message>
+        <source>The modem is connected.</source>
+        <translation>El módem está conectado.</translation>
+    </message>
+    <message>
+        <source>The modem does not tell enough for a verdict.</source>
+        <translation>El módem no da datos suficientes para un dictamen.</translation>
+    </message>
+</context>
+<context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>Radio y servicio</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Celda</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>Ranura SIM</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>Motivo del fallo</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Alimentación</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>Código requerido</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>Intentos restantes</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Fabricante</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>Revisión del firmware</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>Identificador del equipo</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>Capacidades</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Modos</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>Bandas</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>Tecnologías de acceso</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>Calidad de la señal</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>Causa del rechazo</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>Servicio de paquetes</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>Código del operador</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>Nombre del operador</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>Identidad de la celda</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Activa</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectada</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Interfaz</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>Familia de direcciones</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>Método IPv4</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>Dirección IPv4</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>Método IPv6</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>Dirección IPv6</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>Último error</translation>
     </message>
 </context>
 </TS>

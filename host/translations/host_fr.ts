@@ -313,31 +313,8 @@
         <translation>Hôte de diagnostic</translation>
     </message>
     <message>
-        <source>&amp;Diagnostics</source>
-        <translation>&amp;Diagnostic</translation>
-    </message>
-    <message>
-        <source>The diagnostics window could not be opened.</source>
-        <translation>La fenêtre de diagnostic n'a pas pu être ouverte.</translation>
-    </message>
-</context>
-<context>
-    <name>ModemWindow</name>
-    <message>
-        <source>&amp;Plug in</source>
-        <translation>&amp;Brancher</translation>
-    </message>
-    <message>
-        <source>&amp;Unplug</source>
-        <translation>&amp;Débrancher</translation>
-    </message>
-    <message>
         <source>Modem</source>
         <translation>Modem</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Nom</translation>
     </message>
     <message>
         <source>Description</source>
@@ -348,12 +325,362 @@
         <translation>État</translation>
     </message>
     <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>Signal</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
         <source>Plugged in</source>
         <translation>Branché</translation>
     </message>
     <message>
         <source>Unplugged</source>
         <translation>Débranché</translation>
+    </message>
+    <message>
+        <source>&amp;Plug in</source>
+        <translation>&amp;Brancher</translation>
+    </message>
+    <message>
+        <source>&amp;Unplug</source>
+        <translation>Débranche&amp;r</translation>
+    </message>
+    <message>
+        <source>&amp;Diagnostics</source>
+        <translation>&amp;Diagnostic</translation>
+    </message>
+    <message>
+        <source>&amp;Copy report</source>
+        <translation>&amp;Copier le rapport</translation>
+    </message>
+    <message>
+        <source>&amp;Save report…</source>
+        <translation>&amp;Enregistrer le rapport…</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)</source>
+        <translation>Texte (*.txt)</translation>
+    </message>
+    <message>
+        <source>&amp;Hide identifiers</source>
+        <translation>&amp;Masquer les identifiants</translation>
+    </message>
+    <message>
+        <source>Reports do not tell what identifies the device, its user or its place.</source>
+        <translation>Les rapports ne contiennent rien qui permette d'identifier l'appareil, son utilisateur ou son emplacement.</translation>
+    </message>
+    <message>
+        <source>A simulated modem takes its place.</source>
+        <translation>Un modem simulé le remplace.</translation>
+    </message>
+    <message>
+        <source>The diagnostics window could not be opened.</source>
+        <translation>La fenêtre de diagnostic n'a pas pu être ouverte.</translation>
+    </message>
+    <message>
+        <source>The report was copied.</source>
+        <translation>Le rapport a été copié.</translation>
+    </message>
+    <message>
+        <source>The report was saved.</source>
+        <translation>Le rapport a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The report was not saved: %1</source>
+        <translation>Le rapport n'a pas été enregistré : %1</translation>
+    </message>
+</context>
+<context>
+    <name>Verdict</name>
+    <message>
+        <source>The system's message bus does not answer.</source>
+        <translation>Le bus de messages du système ne répond pas.</translation>
+    </message>
+    <message>
+        <source>ModemManager is not running.</source>
+        <translation>ModemManager n'est pas lancé.</translation>
+    </message>
+    <message>
+        <source>ModemManager has not answered yet.</source>
+        <translation>ModemManager n'a pas encore répondu.</translation>
+    </message>
+    <message>
+        <source>ModemManager has not answered for %1 seconds.</source>
+        <translation>ModemManager ne répond plus depuis %1 secondes.</translation>
+    </message>
+    <message>
+        <source>The modem does not answer.</source>
+        <translation>Le modem ne répond pas.</translation>
+    </message>
+    <message>
+        <source>ModemManager has no modem.</source>
+        <translation>ModemManager ne voit aucun modem.</translation>
+    </message>
+    <message>
+        <source>ModemManager has no modem with the number %1.</source>
+        <translation>ModemManager n'a pas de modem numéro %1.</translation>
+    </message>
+    <message>
+        <source>No modem is plugged in.</source>
+        <translation>Aucun modem n'est branché.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its SIM has an error.</source>
+        <translation>Le modem est en panne : sa carte SIM présente une erreur.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its capabilities are unknown.</source>
+        <translation>Le modem est en panne : ses capacités sont inconnues.</translation>
+    </message>
+    <message>
+        <source>The modem failed: its eSIM has no profile.</source>
+        <translation>Le modem est en panne : son eSIM n'a aucun profil.</translation>
+    </message>
+    <message>
+        <source>The modem failed, and does not say why.</source>
+        <translation>Le modem est en panne et n'en donne pas la raison.</translation>
+    </message>
+    <message>
+        <source>There is no SIM in the modem.</source>
+        <translation>Il n'y a pas de carte SIM dans le modem.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN (tries left: %1).</source>
+        <translation>La carte SIM demande son code PIN (essais restants : %1).</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PIN.</source>
+        <translation>La carte SIM demande son code PIN.</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK (tries left: %1).</source>
+        <translation>La carte SIM demande son code PUK (essais restants : %1).</translation>
+    </message>
+    <message>
+        <source>The SIM asks for its PUK.</source>
+        <translation>La carte SIM demande son code PUK.</translation>
+    </message>
+    <message>
+        <source>The SIM is blocked: no tries are left for its PUK.</source>
+        <translation>La carte SIM est bloquée : il ne reste aucun essai pour son code PUK.</translation>
+    </message>
+    <message>
+        <source>The modem is locked and asks for a code other than the PIN.</source>
+        <translation>Le modem est verrouillé et demande un autre code que le PIN.</translation>
+    </message>
+    <message>
+        <source>The modem is switched off.</source>
+        <translation>Le modem est éteint.</translation>
+    </message>
+    <message>
+        <source>The modem is in low-power mode: its radio is off.</source>
+        <translation>Le modem est en mode basse consommation : sa radio est éteinte.</translation>
+    </message>
+    <message>
+        <source>The modem is disabled.</source>
+        <translation>Le modem est désactivé.</translation>
+    </message>
+    <message>
+        <source>The modem is starting.</source>
+        <translation>Le modem démarre.</translation>
+    </message>
+    <message>
+        <source>The network refuses the modem (cause: %1).</source>
+        <translation>Le réseau refuse le modem (cause : %1).</translation>
+    </message>
+    <message>
+        <source>The network refuses the modem.</source>
+        <translation>Le réseau refuse le modem.</translation>
+    </message>
+    <message>
+        <source>The modem is searching for a network.</source>
+        <translation>Le modem recherche un réseau.</translation>
+    </message>
+    <message>
+        <source>The modem is not registered with a network.</source>
+        <translation>Le modem n'est enregistré sur aucun réseau.</translation>
+    </message>
+    <message>
+        <source>The modem is registered, but not attached to the packet service.</source>
+        <translation>Le modem est enregistré, mais n'est pas attaché au service de paquets.</translation>
+    </message>
+    <message>
+        <source>The modem is registered, but there is no connection.</source>
+        <translation>Le modem est enregistré, mais aucune connexion n'est établie.</translation>
+    </message>
+    <message>
+        <source>The modem is connected, but its signal is weak (%1).</source>
+        <translation>Le modem est connecté, mais son signal est faible (%1).</translation>
+    </message>
+    <message>
+        <source>The modem is connected.</source>
+        <translation>Le modem est connecté.</translation>
+    </message>
+    <message>
+        <source>The modem does not tell enough for a verdict.</source>
+        <translation>Le modem n'en dit pas assez pour conclure.</translation>
+    </message>
+</context>
+<context>
+    <name>RadioAndService</name>
+    <message>
+        <source>Radio and service</source>
+        <translation>Radio et service</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Modem</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>Cell</source>
+        <translation>Cellule</translation>
+    </message>
+    <message>
+        <source>SIM slot</source>
+        <translation>Emplacement SIM</translation>
+    </message>
+    <message>
+        <source>Bearer</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Failed reason</source>
+        <translation>Cause de la panne</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Alimentation</translation>
+    </message>
+    <message>
+        <source>Unlock required</source>
+        <translation>Code demandé</translation>
+    </message>
+    <message>
+        <source>Unlock tries</source>
+        <translation>Essais restants</translation>
+    </message>
+    <message>
+        <source>Manufacturer</source>
+        <translation>Fabricant</translation>
+    </message>
+    <message>
+        <source>Firmware revision</source>
+        <translation>Révision du micrologiciel</translation>
+    </message>
+    <message>
+        <source>Equipment identifier</source>
+        <translation>Identifiant de l'équipement</translation>
+    </message>
+    <message>
+        <source>Capabilities</source>
+        <translation>Capacités</translation>
+    </message>
+    <message>
+        <source>Modes</source>
+        <translation>Modes</translation>
+    </message>
+    <message>
+        <source>Bands</source>
+        <translation>Bandes</translation>
+    </message>
+    <message>
+        <source>Access technologies</source>
+        <translation>Technologies d'accès</translation>
+    </message>
+    <message>
+        <source>Signal quality</source>
+        <translation>Qualité du signal</translation>
+    </message>
+    <message>
+        <source>Registration</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Rejection cause</source>
+        <translation>Cause du refus</translation>
+    </message>
+    <message>
+        <source>Packet service</source>
+        <translation>Service de paquets</translation>
+    </message>
+    <message>
+        <source>Operator code</source>
+        <translation>Code de l'opérateur</translation>
+    </message>
+    <message>
+        <source>Operator name</source>
+        <translation>Nom de l'opérateur</translation>
+    </message>
+    <message>
+        <source>Cell identity</source>
+        <translation>Identité de la cellule</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Active</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connectée</translation>
+    </message>
+    <message>
+        <source>Interface</source>
+        <translation>Interface</translation>
+    </message>
+    <message>
+        <source>Address family</source>
+        <translation>Famille d'adresses</translation>
+    </message>
+    <message>
+        <source>IPv4 method</source>
+        <translation>Méthode IPv4</translation>
+    </message>
+    <message>
+        <source>IPv4 address</source>
+        <translation>Adresse IPv4</translation>
+    </message>
+    <message>
+        <source>IPv6 method</source>
+        <translation>Méthode IPv6</translation>
+    </message>
+    <message>
+        <source>IPv6 address</source>
+        <translation>Adresse IPv6</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Reçu</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Envoyé</translation>
+    </message>
+    <message>
+        <source>Last error</source>
+        <translation>Dernière erreur</translation>
     </message>
 </context>
 </TS>

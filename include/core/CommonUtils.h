@@ -21,6 +21,8 @@ public:
     static QString GetPluginLibraryPath();
 
     /// A value of the host's settings file, by group and key; a null string where there is none.
+    /// The diagnostics plug-in asks for "version" of the group "version", the host's software
+    /// version.
     static QString GetSettings(const QString &group, const QString &key);
 
     /// Shows a message box and blocks, in an event loop of its own, until the user has answered or
@@ -35,7 +37,7 @@ public:
     /// box in the middle of its parent.
     ///
     /// Returns the number of the pressed button, 1 to 3, or 0 when the box was closed in another
-    /// way. Whatever the caller keeps of \a parent may be gone by then.
+    /// way. \a parent and its children may have been deleted by then.
     static int ShowMessage(QMessageBox::Icon icon, QWidget *parent, QString caption, QString text,
                            QString button1, QString button2, QString button3, bool modal,
                            Qt::WindowFlags flags, QDialog **box, QString details, bool centre);
@@ -45,8 +47,8 @@ public:
     static void MoveCentre(QDialog *dialog);
 
     /// Measures a text, one line, in the application's font. \a height takes the width of the text
-    /// and \a width the height of a row that shows it, both in pixels: the names stand the wrong
-    /// way round, and callers rely on the order.
+    /// and \a width the height of a row that shows it, both in pixels: the names are swapped,
+    /// and callers rely on the order.
     static void GetApplicationStringHeightAndWidth(const QString &text, int &height, int &width);
 };
 

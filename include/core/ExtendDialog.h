@@ -12,12 +12,15 @@ class QVBoxLayout;
 
 /// The host's dialog frame: a window with title bar and close button around one content widget.
 /// Used on the GUI thread.
+///
+/// Plug-ins make it with new, so its size, its base class and the order of its virtual functions
+/// are part of the binary contract: a plug-in is built with the header of the host that loads it.
 class CORE_EXPORT ExtendDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// \a parent owns the frame and may be null. \a flags are the wanted hints of the title bar;
+    /// \a parent owns the frame and may be null. \a flags are the hints of the title bar;
     /// the frame adds the title and what a dialog needs. \a widgetType chooses the frame: 1 is the
     /// plain dialog, and unknown types are shown like it.
     ExtendDialog(QWidget *parent, Qt::WindowFlags flags, int widgetType);
@@ -37,8 +40,8 @@ public:
     void done(int result) override;
 
 Q_SIGNALS:
-    /// The dialog has ended: emitted exactly once in its life, however that came (button, title
-    /// bar, Esc, or destruction with its parent).
+    /// The dialog has ended: emitted exactly once in its life, in whichever way it ended (button,
+    /// title bar, Esc, or destruction with its parent).
     void dlgCloseEvent();
 
 protected:

@@ -18,7 +18,7 @@
 class IBasePlugin : public IBaseInterface, public IDestroyEvent
 {
 public:
-    /// Starts the plug-in: 1 on success, 0 when it cannot work. The host may try again after a 0.
+    /// Starts the plug-in: 1 on success, 0 if it cannot be started; the host may then try again.
     virtual int Init() = 0;
 
     /// The plug-in's type, one of the framework's codes (see PluginContainer); 0 for a plug-in that

@@ -101,7 +101,7 @@ enum VELT_SIM_STATUS
 {
     VELT_SIM_INVALID = 0,
     VELT_SIM_VALID = 1,
-    VELT_SIM_ROAMING = 240, ///< a card for roaming: a CDMA device without a card of its own
+    VELT_SIM_ROAMING = 240, ///< a roaming card, as in a CDMA device without its own card
     VELT_SIM_NONE = 255     ///< no card
 };
 

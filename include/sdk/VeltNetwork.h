@@ -16,7 +16,7 @@ enum VELT_SELECTION_MODE
     VELT_SELECTION_MANUAL = 1
 };
 
-/// Access technologies, VELT_OPERATOR: the AcT of +COPS (3GPP TS 27.007), which has others too.
+/// Access technologies, VELT_OPERATOR: some of the AcT values of +COPS (3GPP TS 27.007).
 enum VELT_ACCESS_TECHNOLOGY
 {
     VELT_ACCESS_GSM = 0,

@@ -13,6 +13,8 @@
 ///   or field has none, so a caller that needs it must add room for it. Text buffers have the sizes
 ///   given by the VELT_SIZE_ constants; the functions cannot check them.
 /// - Any thread may call any function, a callback included.
+///
+/// The program diagnosis-sdk-check tries a library against these rules.
 
 #ifndef VELTTYPES_H
 #define VELTTYPES_H

@@ -258,16 +258,18 @@ int DiagnosticsCdmaUI::createCdmaDialog(QWidget *parent)
     connect(m_pdialogCdmaDiagnostics, SIGNAL(dlgCloseEvent()), this, SLOT(onDlgClose()));
 
     const int buttonSpacing = 5;
+    const int rightMargin = 0;
     DiagnosticsWindow::layOutButtons(m_phboxLayoutCdmaBottom, m_ppushButtonCdmaSave,
                                      m_ppushButtonCdmaRefresh, m_ppushButtonCdmaCancel,
-                                     buttonSpacing);
+                                     buttonSpacing, rightMargin);
     return Success;
 }
 
 int DiagnosticsCdmaUI::createCdmaLabels()
 {
     const int rowSpacing = 20;
-    QFormLayout *layout = new (std::nothrow) QFormLayout(m_pframeCdmaDiag);
+    // Guarded, like the labels: the host, which is asked for some values, may delete all of them.
+    const QPointer<QFormLayout> layout(new (std::nothrow) QFormLayout(m_pframeCdmaDiag));
     if (!layout || !m_plistCdma) {
         delete layout;
         qDebug("%s: %s: %s: Memory allocation failed", LOG_AT);
@@ -275,29 +277,36 @@ int DiagnosticsCdmaUI::createCdmaLabels()
     }
     layout->setVerticalSpacing(rowSpacing);
     int result = Success;
-    for (const QString &key : *m_plistCdma) {
+    const QPointer<DiagnosticsCdmaUI> alive(this);
+    const QStringList keys = *m_plistCdma;
+    for (const QString &key : keys) {
         ++m_iRowCount;
-        QLabel *caption = new (std::nothrow) QLabel(m_pframeCdmaDiag);
-        QLabel *value = new (std::nothrow) QLabel(m_pframeCdmaDiag);
-        if (!caption || !value) {
+        const QPointer<QLabel> caption(new (std::nothrow) QLabel(m_pframeCdmaDiag));
+        const QPointer<QLabel> value(new (std::nothrow) QLabel(m_pframeCdmaDiag));
+        int rowHeight = 0;
+        QString text;
+        if (caption && value) {
+            DiagnosticsRow::setUp(caption, value, tr(key));
+            int textWidth = 0;
+            CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
+            caption->setMinimumSize(DiagnosticsRow::CaptionWidth, rowHeight);
+            caption->setObjectName(DiagnosticsRow::captionName(key));
+            text = getLabelValuebyName(key);
+        }
+        if (!alive || !caption || !value) {
             qDebug("%s: %s: %s: labelName is null", LOG_AT);
             delete layout;
-            layout = nullptr;
             delete caption;
             delete value;
             result = Missing;
             break;
         }
-        DiagnosticsRow::setUp(caption, value, key, tr(key));
-        int textWidth = 0;
-        int rowHeight = 0;
-        CommonUtils::GetApplicationStringHeightAndWidth(caption->text(), textWidth, rowHeight);
-        caption->setMinimumSize(DiagnosticsRow::CaptionWidth, rowHeight);
-        value->setText(getLabelValuebyName(key));
+        value->setText(text);
         value->setFixedHeight(rowHeight);
+        value->setObjectName(DiagnosticsRow::valueName(key));
         layout->addRow(caption, value);
     }
-    if (layout)
+    if (result == Success)
         m_pframeCdmaDiag->setLayout(layout);
     qDebug("%s: %s: %s:  label creation successful", LOG_AT);
     return result;
@@ -378,11 +387,15 @@ void DiagnosticsCdmaUI::onRefreshClicked()
         qDebug("%s: %s: %s: cdma list or dialog is null", LOG_AT);
         return;
     }
-    for (const QString &key : *m_plistCdma) {
+    const QPointer<DiagnosticsCdmaUI> alive(this); // the host may destroy it meanwhile
+    const QStringList keys = *m_plistCdma;
+    for (const QString &key : keys) {
         const QPointer<QLabel> label = DiagnosticsRow::value(m_pwidgetCdmaDiagnostic, key);
         if (!label)
             continue;
         const QString value = getLabelValuebyName(key);
+        if (!alive)
+            return;
         if (label) // the host may have closed the window meanwhile
             label->setText(value);
     }
@@ -395,7 +408,7 @@ void DiagnosticsCdmaUI::onSaveClicked()
     qDebug("%s: %s: %s: called", LOG_AT);
     const QPointer<DiagnosticsCdmaUI> alive(this); // the host may destroy it meanwhile
     const QString path = DiagnosticsSaveDialogs::askPath(m_pwidgetCdmaDiagnostic);
-    if (alive && !path.isNull() && saveFile(path) != Success)
+    if (alive && !path.isNull() && saveFile(path) != Success && alive)
         DiagnosticsSaveDialogs::showFailure(m_pwidgetCdmaDiagnostic);
 }
 
@@ -411,8 +424,12 @@ int DiagnosticsCdmaUI::saveFile(QString fileName)
         qDebug("%s: %s: %s: Error in opening file", LOG_AT);
         return CannotOpen;
     }
-    for (const QString &key : *m_plistCdma) {
+    const QPointer<DiagnosticsCdmaUI> alive(this);
+    const QStringList keys = *m_plistCdma;
+    for (const QString &key : keys) {
         const QString value = getLabelValuebyName(key);
+        if (!alive)
+            return Missing;
         const QLabel *caption = DiagnosticsRow::caption(m_pwidgetCdmaDiagnostic, key);
         if (!caption)
             continue;

@@ -11,7 +11,6 @@
 #include "sdk/VeltDevice.h"
 
 #include <QFile>
-#include <QXmlStreamReader>
 
 #include <new>
 

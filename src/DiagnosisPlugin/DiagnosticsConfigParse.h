@@ -4,11 +4,13 @@
 #ifndef DIAGNOSTICSCONFIGPARSE_H
 #define DIAGNOSTICSCONFIGPARSE_H
 
-#include "DiagnosticsToolkit.h"
-
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QXmlStreamReader>
+
+// After Qt's header, which in Qt 4 can rename the class to this name.
+typedef QXmlStreamReader QCoreXmlStreamReader;
 
 /// One configured row.
 struct TabItem
@@ -69,7 +71,8 @@ private:
     QString m_strKey;
     QString m_strValue;
     QString m_strSection;
-    QString m_strCustomizeActive; ///< "true" while a block holds whose simmsgprompt is not read yet
+    /// "true" while a customization block applies and its simmsgprompt has not been read.
+    QString m_strCustomizeActive;
     QString m_strReserved;
     QHash<QString, QString> *m_pHashCustomization;
 };

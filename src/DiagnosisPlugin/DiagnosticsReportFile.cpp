@@ -11,15 +11,15 @@ bool DiagnosticsReportFile::open()
 {
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Text))
         return false;
-    m_stream.setDevice(&m_file);
-    setUtf8(m_stream);
+    m_stream.reset(new QTextStream(&m_file));
+    setUtf8(*m_stream);
     return true;
 }
 
 void DiagnosticsReportFile::writeLine(const QString &text)
 {
-    m_stream << text << '\n';
-    m_stream.flush();
+    *m_stream << text << '\n';
+    m_stream->flush();
 }
 
 void DiagnosticsReportFile::writeRow(const QString &caption, const QString &value)
@@ -30,4 +30,5 @@ void DiagnosticsReportFile::writeRow(const QString &caption, const QString &valu
 void DiagnosticsReportFile::close()
 {
     m_file.close();
+    m_stream.reset();
 }

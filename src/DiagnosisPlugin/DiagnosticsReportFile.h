@@ -8,7 +8,9 @@
 #include <QString>
 #include <QTextStream>
 
-/// The file that both windows export to: UTF-8 text, flushed after each line.
+#include <memory>
+
+/// The file of an export, of either window: UTF-8 text, flushed after each line.
 class DiagnosticsReportFile
 {
 public:
@@ -24,7 +26,7 @@ private:
     Q_DISABLE_COPY(DiagnosticsReportFile)
 
     QFile m_file;
-    QTextStream m_stream;
+    std::unique_ptr<QTextStream> m_stream; ///< null unless the file is open
 };
 
 #endif

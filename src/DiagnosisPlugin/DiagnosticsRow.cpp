@@ -8,20 +8,10 @@
 
 namespace {
 
-QString captionName(const QString &rowName)
-{
-    return QLatin1String("DiagnosticsUIPlugin_label") + rowName;
-}
-
-QString valueName(const QString &rowName)
-{
-    return captionName(rowName) + QLatin1String("Value");
-}
-
-/// Sets a caption's text and its buddy. The buddy tells assistive technology what the value is of,
-/// but makes the label read an ampersand as the mark of a shortcut, so a text with an ampersand
-/// gets none. The old buddy is removed first: removed after the text was set, it would leave its
-/// shortcut.
+/// Sets a caption's text and its buddy. The buddy tells assistive technology which value the
+/// caption belongs to, but makes the label read an ampersand as the mark of a shortcut, so a text
+/// with an ampersand gets none. The old buddy is removed first. If it were removed after the text
+/// was set, its shortcut would stay.
 void setText(QLabel *caption, QLabel *value, const QString &text)
 {
     caption->setBuddy(nullptr);
@@ -32,16 +22,23 @@ void setText(QLabel *caption, QLabel *value, const QString &text)
 
 } // namespace
 
-void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &rowName,
-                           const QString &text)
+QString DiagnosticsRow::captionName(const QString &rowName)
+{
+    return QLatin1String("DiagnosticsUIPlugin_label") + rowName;
+}
+
+QString DiagnosticsRow::valueName(const QString &rowName)
+{
+    return captionName(rowName) + QLatin1String("Value");
+}
+
+void DiagnosticsRow::setUp(QLabel *caption, QLabel *value, const QString &text)
 {
     // In a window from right to left, labels would align a text in Latin letters to the left, and
     // caption and value would stand apart.
     for (QLabel *label : {caption, value})
         label->setAlignment(Qt::AlignAbsolute |
                             QStyle::visualAlignment(label->layoutDirection(), label->alignment()));
-    caption->setObjectName(captionName(rowName));
-    value->setObjectName(valueName(rowName));
     setText(caption, value, text);
     // An operator's name, which the network sends, must not be read as markup.
     value->setTextFormat(Qt::PlainText);

@@ -19,12 +19,16 @@ public:
         CaptionWidth = 185 ///< in pixels
     };
 
-    /// Names the two labels after the row, sets the caption's text and makes the value show plain
-    /// text, which can be selected and copied.
-    static void setUp(QLabel *caption, QLabel *value, const QString &rowName, const QString &text);
+    /// The object names of a row's labels.
+    static QString captionName(const QString &rowName);
+    static QString valueName(const QString &rowName);
 
-    /// A label of a row among the descendants of a widget, which may be null; null if there is
-    /// none.
+    /// Sets the caption's text and makes the value show plain text, which can be selected and
+    /// copied.
+    static void setUp(QLabel *caption, QLabel *value, const QString &text);
+
+    /// Finds a label of a row below a widget. Returns null if there is none, or if \a below is
+    /// null.
     static QLabel *caption(const QWidget *below, const QString &rowName);
     static QLabel *value(const QWidget *below, const QString &rowName);
 

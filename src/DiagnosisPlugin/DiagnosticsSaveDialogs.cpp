@@ -27,9 +27,9 @@ void showOutcome(QWidget *parent, const char *captionKey, const char *messageKey
 
 QString DiagnosticsSaveDialogs::askPath(QWidget *parent)
 {
-    // What QFileDialog::getSaveFileName() asks, but the dialog is on the heap, since a window that
-    // the host closes deletes it. The start path has the proposed name too: without it, the dialog
-    // would start in the parent of a home folder that is missing.
+    // Asks what QFileDialog::getSaveFileName() asks. The dialog is on the heap, because a window
+    // that the host closes deletes it. The start path ends with the proposed name: otherwise, if
+    // the home folder is missing, the dialog would start in its parent.
     const QLatin1String proposal("*.txt");
     const QPointer<QFileDialog> dialog(
         new QFileDialog(parent, QString(), QDir::homePath() + QLatin1Char('/') + proposal,
@@ -49,7 +49,7 @@ void DiagnosticsSaveDialogs::showSuccess(QWidget *parent)
     showOutcome(parent, "IDS_PROMPT_CAPTION", "IDS_EXPORTSUCCESS_PROMPT");
 }
 
-// With the information icon too.
+// A failure has the information icon too.
 void DiagnosticsSaveDialogs::showFailure(QWidget *parent)
 {
     showOutcome(parent, "IDS_ERROR_CAPTION", "IDS_EXPORTFAILURE_PROMPT");

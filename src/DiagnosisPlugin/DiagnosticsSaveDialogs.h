@@ -9,12 +9,13 @@
 class QWidget;
 
 /// The dialogs of the export, which both windows share. Each function blocks in an event loop of
-/// its own, in which the host may close the window: what is used of the window afterwards must be
-/// a guarded pointer. GUI thread.
+/// its own, in which the host may close the window. Afterwards, use the window through guarded
+/// pointers only. GUI thread.
 class DiagnosticsSaveDialogs
 {
 public:
-    /// Asks for the file to write; a null string if the user cancels or the window goes meanwhile.
+    /// Asks for the file to write; a null string if the user cancels or the window is deleted
+    /// meanwhile.
     static QString askPath(QWidget *parent);
 
     static void showSuccess(QWidget *parent);

@@ -10,9 +10,9 @@
 #include <cstdint>
 #include <cstring>
 
-/// A text buffer for the SDK, or a copy of a text field of its records. It is zeroed, and has a
-/// unit more than the SDK may write, since a text that fills its buffer has no zero at its end.
-/// Texts of bytes are Latin-1, texts of 16-bit units UTF-16.
+/// A text buffer for the SDK, or a copy of a text field of its records. It is zeroed. It has
+/// one unit more than the SDK may write, which stays zero: a text that fills its buffer has no zero
+/// at its end. Texts of bytes are Latin-1, texts of 16-bit units UTF-16.
 template <std::size_t size, typename Unit = char>
 class SdkText
 {

@@ -14,12 +14,6 @@
 #include <QStringConverter>
 #endif
 
-QT_BEGIN_NAMESPACE
-class QXmlStreamReader;
-QT_END_NAMESPACE
-
-typedef QXmlStreamReader QCoreXmlStreamReader;
-
 // The export of the plug-in: the first macro stands in the class, the second in one source file.
 // The first must stand between two of Qt's own macros, since the moc of Qt 4 does not expand it and
 // can skip it only there.
@@ -51,7 +45,7 @@ void setUtf8(TextStream &stream)
 #endif
 }
 
-/// Lets a file dialog offer local files only. Qt 4 knows no others.
+/// Lets a file dialog offer local files only. Qt before 5.6 does not have this setting.
 template <typename FileDialog>
 void offerLocalFiles(FileDialog &dialog)
 {

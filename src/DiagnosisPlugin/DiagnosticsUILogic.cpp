@@ -813,14 +813,16 @@ QString DiagnosticsUILogic::GetMessageCount(int storage)
 QString DiagnosticsUILogic::GetIPAddress()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
-    return addressText(__func__, "VELT_NetSrv_GetIPAddress", m_strDeviceName, getProfileName(),
+    const QString deviceName = m_strDeviceName;
+    return addressText(__func__, "VELT_NetSrv_GetIPAddress", deviceName, getProfileName(),
                        VELT_NetSrv_GetIPAddress);
 }
 
 QString DiagnosticsUILogic::GetDNSServer()
 {
     qDebug("%s: %s: %s: called", LOG_AT);
-    return addressText(__func__, "VELT_NetSrv_GetDNS", m_strDeviceName, getProfileName(),
+    const QString deviceName = m_strDeviceName;
+    return addressText(__func__, "VELT_NetSrv_GetDNS", deviceName, getProfileName(),
                        VELT_NetSrv_GetDNS);
 }
 

@@ -18,7 +18,7 @@ class IStatusBarUI;
 /// another, and logs the SDK's result.
 ///
 /// A counted singleton: each GetInstance() counts one reference, and only the Destroy() that finds
-/// the count at 0 deletes the object. Used on the GUI thread, but for OnDevEvents().
+/// the count at 0 deletes the object. Used on the GUI thread, except OnDevEvents().
 class DiagnosticsUILogic : public QObject
 {
     Q_OBJECT
@@ -100,6 +100,7 @@ public:
     /// Of the current connection profile and the device name that was read last.
     QString GetIPAddress();
     QString GetDNSServer();
+    /// Of the current connection profile.
     QString GetAPN();
     QString getProfileName();
     /// The host's status bar, or null. The host owns it and may delete it: do not keep it.

@@ -399,9 +399,9 @@ int DiagnosticsUIPlugin::createLayout()
     m_phboxLayoutTop->addWidget(m_ptabWidgetDiag);
 
     const int buttonSpacing = 26;
+    const int rightMargin = 15;
     DiagnosticsWindow::layOutButtons(m_phboxLayoutBottom, m_ppushButtonSave, m_ppushButtonRefresh,
-                                     m_ppushButtonCancel, buttonSpacing);
-    m_phboxLayoutBottom->setContentsMargins(0, 0, 15, 0);
+                                     m_ppushButtonCancel, buttonSpacing, rightMargin);
     return Success;
 }
 
@@ -485,8 +485,10 @@ int DiagnosticsUIPlugin::createTab(TabDetails *tab)
             result = Missing;
             break;
         }
-        DiagnosticsRow::setUp(caption, value, item.name, tr(item.resourceID));
+        DiagnosticsRow::setUp(caption, value, tr(item.resourceID));
         caption->setFixedWidth(DiagnosticsRow::CaptionWidth);
+        caption->setObjectName(DiagnosticsRow::captionName(item.name));
+        value->setObjectName(DiagnosticsRow::valueName(item.name));
         value->setWordWrap(true);
         layout->addRow(caption, value);
     }
@@ -539,7 +541,7 @@ bool DiagnosticsUIPlugin::isMarkable(int index) const
     return index >= 0 && index < m_iTabFilledCount;
 }
 
-/// Reads the shown rows of a tab into their value labels, to be found below \a page. The host,
+/// Reads the shown rows of a tab into their value labels, which are below \a page. The host,
 /// which is asked for some values, may close the window meanwhile.
 void DiagnosticsUIPlugin::showRows(const TabDetails &tab, QPointer<QWidget> page)
 {
@@ -587,7 +589,8 @@ void DiagnosticsUIPlugin::onTabChange(int index)
         qDebug("%s: %s: %s: no more tab to switch or widget is null", LOG_AT);
         return;
     }
-    // The caption, and once a tab is found its configured name; either is compared at the end.
+    // First the caption; after a match, the tab's configured name. The test at the end compares
+    // what it then holds.
     QString text = m_ptabWidgetDiag->tabText(index);
     const QList<TabDetails> *tabs = m_pConfigParse->GetTabInformation();
     if (!tabs) {

@@ -58,11 +58,12 @@ public:
     bool IsAllowRelease() override;
     void Release() override;
     int GetLastError() override;
-    /// Unregisters from the device and releases what Init() and ShowWindow() got. Relies on
-    /// nothing; windows that are open stay open.
+    /// Unregisters from the device and releases what Init() and ShowWindow() got. May be
+    /// called at any time; windows that are open stay open.
     void OnDestroy() override;
-    /// Relies on nothing: without a window it does nothing. NOTIFY_CLOSE_WINDOWS closes the window
-    /// shown last, and releases the CDMA window's object if that window is visible.
+    /// May be called at any time: without a window it does nothing. NOTIFY_CLOSE_WINDOWS closes the
+    /// tabbed window that was shown last. If the CDMA window is visible, closes it and releases its
+    /// object.
     int Notify(unsigned int code, unsigned int argument1, unsigned int argument2) override;
     int QueryInterface(int identifier, QObject **object) override;
     bool ChangeLang(const QString &language) override;

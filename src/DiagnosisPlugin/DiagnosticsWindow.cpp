@@ -32,19 +32,20 @@ void DiagnosticsWindow::setUpButton(QPushButton *button, const char *textKey, QO
 }
 
 void DiagnosticsWindow::layOutButtons(QHBoxLayout *layout, QPushButton *save, QPushButton *refresh,
-                                      QPushButton *cancel, int gap)
+                                      QPushButton *cancel, int gap, int rightMargin)
 {
-    layout->setSpacing(0);   // the style's own would add to the gap
-    layout->addWidget(save); // Qt passes over a missing button, with a warning
+    layout->setSpacing(0);   // the style's spacing would add to the gap
+    layout->addWidget(save); // Qt ignores a null button, with a warning
     layout->addSpacing(gap);
     layout->addWidget(refresh);
     layout->addSpacing(gap);
     layout->addWidget(cancel);
+    layout->setContentsMargins(0, 0, rightMargin, 0);
     layout->setAlignment(Qt::AlignRight);
     if (save)
         QWidget::setTabOrder(save, refresh);
     QWidget::setTabOrder(refresh, cancel);
-    // Qt 4 would choose the first button of the Tab order.
+    // Without this, Qt 4 makes the first button of the Tab order the default.
     cancel->setDefault(true);
     cancel->setFocus(Qt::OtherFocusReason);
 }

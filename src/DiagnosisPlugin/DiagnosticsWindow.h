@@ -27,12 +27,14 @@ public:
     static void setUpButton(QPushButton *button, const char *textKey, QObject *receiver,
                             const char *slot);
 
-    /// Lays out the buttons, aligned right, with a gap in pixels between them. The Tab key goes
-    /// through them in this order; Cancel has the focus and is the default. \a save may be null.
+    /// Lays out the buttons, aligned right, with a gap between them and a margin behind them, both
+    /// in pixels. The Tab key goes through them in this order; Cancel has the focus and is the
+    /// default. \a save may be null.
     static void layOutButtons(QHBoxLayout *layout, QPushButton *save, QPushButton *refresh,
-                              QPushButton *cancel, int gap);
+                              QPushButton *cancel, int gap, int rightMargin);
 
-    /// Shows a window in the middle of its parent; it deletes itself when it is closed.
+    /// Shows a window in the middle of its parent, or of the screen if it has none. The window
+    /// deletes itself when it is closed.
     static void show(ExtendDialog *window);
 };
 

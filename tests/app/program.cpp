@@ -144,7 +144,7 @@ private Q_SLOTS:
         run("env",
             {"DBUS_SYSTEM_BUS_ADDRESS=unix:path=" + path, HOST_PROGRAM, "--modem", "modemmanager",
              "--language", "en", "--print"},
-            {"0", "IMEI: Unknown\n", "has answered yet"});
+            {"9", "IMEI: Unknown\n", "has not answered yet"});
         close(listener);
     }
 

@@ -52,7 +52,7 @@ private Q_SLOTS:
         for (const char *wrong : {"xx", "", "../translations/host_en", "en.qm"})
             QVERIFY(!HostCore::setLanguage(folder, QLatin1String(wrong)));
         QCOMPARE(text("IDS_MAINFRM_UNKNOWN"), "Unbekannt");
-        QCOMPARE(QCoreApplication::translate("ModemWindow", "&Unplug"), "&Abziehen");
+        QCOMPARE(QCoreApplication::translate("MainWindow", "&Unplug"), "&Abziehen");
         QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
     }
 

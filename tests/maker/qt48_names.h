@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-// Names that Qt 4.8 lacks. The plug-in's sources are compiled behind this header: a use of one of them is
-// an error. Qt's own headers use them too, so they come first. Left out are the names that
-// DiagnosticsToolkit.h uses under its conditions, and short ones that 4.8 has in another class.
+// Names that Qt 4.8 lacks. The plug-in's sources are compiled behind this header: a use of one of
+// them is an error. Qt's own headers use them too, so they come first. Left out are the names that
+// DiagnosticsToolkit.h uses under its conditions, and those that 4.8 has in another class.
 
 #include <QtWidgets>
 
+// clang-format off
 // Macros: what Qt's macros that remain expand to does not change.
 #undef QByteArrayLiteral
 #undef QStringLiteral

@@ -45,7 +45,17 @@ static Pairs readSdk()
     QStringList all = values.values();
     all.removeDuplicates();
     values["all"] = all.join(", ");
-    values["problem"] = QString::fromStdString(ModemService::problem());
+    static const char *const statusNames[] = {"Detached",     "Starting", "NoBus",  "NoService",
+                                              "NotAnswering", "NoModem",  "Present"};
+    values["status"] = statusNames[static_cast<int>(ModemService::status())];
+    const ModemService::Condition condition = ModemService::condition();
+    values["condition"] = QString("%1 %2 %3")
+                              .arg(condition.state)
+                              .arg(condition.failedReason)
+                              .arg(condition.powerState);
+    for (const ModemService::Detail &detail : ModemService::details())
+        values[QString::fromStdString(detail.group + ' ' + detail.name)] =
+            QString::fromStdString(detail.value);
     for (const TextValue value : {TextValue::ServiceName, TextValue::NetworkType,
                                   TextValue::Profile, TextValue::Apn, TextValue::Description})
         values[textKeys()[static_cast<size_t>(value)]] =
@@ -103,6 +113,7 @@ void perform(const QStringList &steps, Commands commands)
         timer.start();
         QVERIFY(!ModemService::isPresent(5000) && timer.elapsed() < 2000);
     };
+    commands["signal-read"] = [](const QString &) { QVERIFY(ModemService::waitForSignal(3000)); };
     commands["events"] = [](const QString &) { startEvents(); };
     commands["expect"] = expect;
     commands["still"] = [](const QString &pairs) { QCOMPARE(differences(pairs), QString()); };

@@ -22,14 +22,15 @@ using Pairs = QMap<QString, QString>;
 Pairs pairs(const QString &text);
 
 /// Waits until the SDK says what pairs tell. Besides SdkCalls::answers() they name: "all", the
-/// different ones of these answers; "problem"; the keys of what the host alone reads; and "events",
-/// what was taken. The test fails after 10 s, and after 1 s once an expectation has failed.
+/// different ones of these answers; "status"; "condition"; the details by group and name; the keys
+/// of what the host alone reads; and "events", what was taken. The test fails after 10 s, and after
+/// 1 s once an expectation has failed.
 void expect(const QString &expected);
 
 using Commands = std::map<QString, std::function<void(const QString &)>>;
 
 /// Takes the steps of a script, each a command of these or the following, and its argument.
-///     attach INDEX | detach | absent | pause MILLISECONDS
+///     attach INDEX | detach | absent | signal-read | pause MILLISECONDS
 ///     events        starts to take events: the code, and the device status inside the callback
 ///     expect PAIRS  waits for them
 ///     still PAIRS   does not wait

@@ -80,6 +80,7 @@ private Q_SLOTS:
 
         SdkControl::setResult(call.function, 77);
         compare(77, "");
+        QCOMPARE(SdkControl::recordedCalls().back().result, VELT_ERROR(77));
         SdkControl::setResult(call.function, 77, SdkControl::FillOutputs);
         compare(77, answer);
         SdkControl::setResult(call.function, 0);
@@ -179,9 +180,10 @@ private Q_SLOTS:
         VELT_DevSrv_UnRegisterDevInitEventCallback(nullptr);
         std::string calls;
         for (const auto &call : SdkControl::recordedCalls())
-            calls += call.function.substr(12) + "(" + call.arguments + ") ";
-        QCOMPARE(calls, std::string("GetDNS(null, \"P\", -5) RegisterDevMgrCallback(callback) "
-                                    "UnRegisterDevInitEventCallback(null) "));
+            calls += call.function.substr(12) + "(" + call.arguments + ") " +
+                     std::to_string(call.result) + " ";
+        QCOMPARE(calls, std::string("GetDNS(null, \"P\", -5) 6 RegisterDevMgrCallback(callback) 0 "
+                                    "UnRegisterDevInitEventCallback(null) 6 "));
         SdkControl::stopRecording();
         VELT_NetSrv_GetPSState(&n);
         QVERIFY(SdkControl::recordedCalls().empty());

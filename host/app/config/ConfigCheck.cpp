@@ -4,19 +4,24 @@
 #include "config/ConfigCheck.h"
 
 #include "config/CaptionRules.h"
+#include "config/ConfigFile.h"
 #include "config/ConfigSchema.h"
 
-#include <QFile>
+#include "HostCore.h"
+
 #include <QHash>
 #include <QList>
 #include <QPair>
 #include <QRegularExpression>
 #include <QSet>
+#include <QVector>
 
 #include <libxml/parserInternals.h>
 #include <libxml/xmlschemas.h>
 
+#include <algorithm>
 #include <memory>
+#include <numeric>
 
 namespace {
 
@@ -69,6 +74,30 @@ QString consequence(const QString &place)
     return QString();
 }
 
+/// How many characters must be inserted, removed or replaced to make one text of the other.
+int distance(const QString &from, const QString &to)
+{
+    QVector<int> row(to.size() + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (int i = 0; i < from.size(); ++i) {
+        int diagonal = row[0]++;
+        for (int j = 0; j < to.size(); ++j) {
+            const int replaced = diagonal + (from[i] == to[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, diagonal + 1, row[j] + 1});
+        }
+    }
+    return row.last();
+}
+
+QString nearestKey(const QString &key)
+{
+    const QStringList keys = HostCore::resourceKeys();
+    return *std::min_element(keys.begin(), keys.end(), [&](const QString &a, const QString &b) {
+        return distance(key, a) < distance(key, b);
+    });
+}
+
 QString text(const xmlChar *characters)
 {
     return QString::fromUtf8(reinterpret_cast<const char *>(characters));
@@ -113,6 +142,7 @@ private:
     Position position(int offset) const;
     void add(int offset, const QString &text);
     void checkStart();
+    void checkText(const QString &consequence);
 
     const QByteArray m_document;
     const QMap<QString, QStringList> m_rowsOfTabs;
@@ -169,11 +199,13 @@ void DocumentCheck::parse(xmlSAXHandler handler, xmlSchemaValidCtxtPtr validator
 
 QStringList DocumentCheck::findings() const
 {
+    static const QRegularExpression lineBreaks(QStringLiteral("[\\r\\n]"));
     QStringList lines;
     for (auto finding = m_findings.cbegin(); finding != m_findings.cend(); ++finding)
         lines.append(QStringLiteral("%1:%2: %3")
                          .arg(QString::number(finding.key().first),
-                              QString::number(finding.key().second), finding.value()));
+                              QString::number(finding.key().second),
+                              QString(finding.value()).replace(lineBreaks, QStringLiteral(" "))));
     return lines;
 }
 
@@ -290,6 +322,9 @@ void DocumentCheck::checkStart()
     const auto attribute = [this](const char *name) {
         return m_current.attributes.value(QLatin1String(name));
     };
+    const auto isShown = [](const Element &element) {
+        return element.attributes.value(QStringLiteral("show")) != QLatin1String("false");
+    };
     const auto offset = [this](const char *name) {
         return m_current.offsets.value(QLatin1String(name), m_current.offset);
     };
@@ -300,10 +335,15 @@ void DocumentCheck::checkStart()
             add(m_current.offset, QStringLiteral("The document must be a <veltdoc>. What stands "
                                                  "outside one is not read."));
     } else if (m_current.name == QLatin1String("tab")) {
-        if (m_current.parent == QLatin1String("veltdoc") &&
-            attribute("show") != QLatin1String("false"))
+        if (m_current.parent == QLatin1String("veltdoc") && isShown(m_current)) {
             m_captions.addTab(attribute("resourceID"), offset("resourceID"));
+            checkText(
+                QStringLiteral("The tab has no title, and stays blank unless it is the first."));
+        }
     } else if (m_current.name == QLatin1String("item")) {
+        if (m_current.parent == QLatin1String("tab") && isShown(m_open.last()) &&
+            isShown(m_current))
+            checkText(QStringLiteral("The row has no caption."));
         const QString tab = m_open.last().attributes.value(QStringLiteral("name"));
         const QStringList rows = m_rowsOfTabs.value(tab);
         const QString row = attribute("name");
@@ -320,6 +360,17 @@ void DocumentCheck::checkStart()
     }
 }
 
+/// Checks that the resource key of the current element has a text.
+void DocumentCheck::checkText(const QString &consequence)
+{
+    const QString attribute = QStringLiteral("resourceID");
+    const QString key = m_current.attributes.value(attribute);
+    if (!key.isEmpty() && HostCore::pluginText(key).isEmpty())
+        add(m_current.offsets.value(attribute),
+            QStringLiteral("There is no text for \"%1\". %2 The nearest key is \"%3\".")
+                .arg(key, consequence, nearestKey(key)));
+}
+
 /// Keeps the parser from loading other files, or anything from the network.
 xmlParserInputPtr loadNothing(const char *, const char *, xmlParserCtxtPtr)
 {
@@ -328,16 +379,10 @@ xmlParserInputPtr loadNothing(const char *, const char *, xmlParserCtxtPtr)
 
 bool readFile(const QString &fileName, QByteArray *content, QString *error)
 {
-    QFile file(fileName);
-    if (file.open(QIODevice::ReadOnly)) {
-        *content = file.read(LargestFile + 1);
-        if (file.error() == QFileDevice::NoError && content->size() <= LargestFile)
-            return true;
-    }
-    *error = QStringLiteral("cannot read %1: %2")
-                 .arg(fileName, content->size() > LargestFile
-                                    ? QStringLiteral("larger than %1 bytes").arg(LargestFile)
-                                    : file.errorString());
+    QString reason;
+    if (ConfigFile::read(fileName, LargestFile, content, &reason))
+        return true;
+    *error = QStringLiteral("cannot read %1: %2").arg(fileName, reason);
     return false;
 }
 

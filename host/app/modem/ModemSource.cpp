@@ -16,13 +16,14 @@ const QString serviceName = QStringLiteral("modemmanager");
 const QString automatic = QStringLiteral("auto");
 const QString simulatedDefault = QStringLiteral("wcdma");
 
-/// How long the program waits for the service's first answer at the start.
-const int firstAnswer = 1000; // ms
+// How long the start may wait for the service's first answer, ms.
+const int windowStart = 1000;
+const int longestStart = 1500;
 
 } // namespace
 
 ModemSource::ModemSource(const QString &folder)
-    : m_folder(folder), m_simulated(true), m_hanging(false)
+    : m_folder(folder), m_index(0), m_simulated(true), m_hanging(false)
 {
 }
 
@@ -47,34 +48,33 @@ QStringList ModemSource::names() const
     return names + QStringList({serviceName, automatic});
 }
 
-bool ModemSource::attach(const QString &name, QString *error)
+bool ModemSource::attach(const QString &name, Absence absence, QString *error)
 {
-    if (name == automatic) {
-        ModemService::attach();
-        m_simulated = !ModemService::isPresent(firstAnswer);
-        if (m_simulated) {
-            m_fallback = QString::fromStdString(ModemService::problem());
-            detach();
-            return attachSimulated(simulatedDefault, error);
-        }
-        m_name = serviceName;
-        return true;
-    }
-    if (name.section(QLatin1Char(':'), 0, 0) != serviceName)
+    const bool isAutomatic = name == automatic;
+    if (!isAutomatic && name.section(QLatin1Char(':'), 0, 0) != serviceName)
         return attachSimulated(name, error);
 
     bool isNumber = true;
     const QString number = name.section(QLatin1Char(':'), 1);
-    const int index = name == serviceName ? 0 : number.toInt(&isNumber);
-    if (!isNumber || index < 0) {
+    m_index = number.isNull() ? 0 : number.toInt(&isNumber);
+    if (!isNumber || m_index < 0) {
         *error = QStringLiteral("\"%1\" is not the number of a modem, which is 0 for the first")
                      .arg(number);
         return false;
     }
-    ModemService::attach(index);
-    ModemService::isPresent(firstAnswer); // so that the first window has values
+    ModemService::attach(m_index);
+    ModemService::isPresent(absence == Reported ? longestStart : windowStart);
+    const ModemService::Status status = ModemService::status();
+    const bool isAbsent = status == ModemService::Status::NoBus ||
+                          status == ModemService::Status::NoService ||
+                          status == ModemService::Status::NoModem;
+    if (isAutomatic && isAbsent && absence == Replaced) {
+        m_fallback = verdict().text;
+        detach();
+        return attachSimulated(simulatedDefault, error);
+    }
     m_simulated = false;
-    m_name = name;
+    m_name = isAutomatic ? serviceName : name;
     return true;
 }
 
@@ -101,11 +101,4 @@ bool ModemSource::attachSimulated(const QString &name, QString *error)
 QString ModemSource::description() const
 {
     return QString::fromStdString(SdkControl::text(TextValue::Description));
-}
-
-QString ModemSource::problem() const
-{
-    return m_fallback.isEmpty()
-               ? QString::fromStdString(ModemService::problem())
-               : m_fallback + QStringLiteral(" A simulated modem takes its place.");
 }

@@ -10,6 +10,8 @@
 #include <QFormLayout>
 #include <QFrame>
 #include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 namespace {
@@ -69,7 +71,8 @@ QList<ShownRow> rowsOf(const QWidget *page)
 
 bool ShownRow::isKnown() const
 {
-    return !value.isEmpty() && value != HostCore::pluginText(QStringLiteral("IDS_MAINFRM_UNKNOWN"));
+    return !value.isEmpty() && value != QLatin1String("not implement") &&
+           value != HostCore::pluginText(QStringLiteral("IDS_MAINFRM_UNKNOWN"));
 }
 
 DiagnosticsReader::DiagnosticsReader(QWidget *window) : m_window(window) {}
@@ -118,11 +121,32 @@ QList<ShownPage> DiagnosticsReader::pages() const
 
 QList<ShownPage> DiagnosticsReader::read() const
 {
-    if (QTabWidget *const tabs = tabsOf(m_window)) {
-        const int shown = tabs->currentIndex();
-        for (int index = 0; index < tabs->count(); ++index)
-            tabs->setCurrentIndex(index);
-        tabs->setCurrentIndex(shown);
-    }
+    visit([](const QWidget *) {});
     return pages();
+}
+
+QList<ShownPage> DiagnosticsReader::readAgain() const
+{
+    visit([](const QWidget *window) {
+        const auto buttons = window->findChildren<QPushButton *>(
+            QRegularExpression(QStringLiteral("^DiagnosticsUIPlugin_pushButton.*Refresh$")));
+        for (QPushButton *const refresh : buttons)
+            refresh->click();
+    });
+    return pages();
+}
+
+/// Calls \a each for the window of CDMA devices, or for each tab while it is shown.
+void DiagnosticsReader::visit(void (*each)(const QWidget *)) const
+{
+    QTabWidget *const tabs = tabsOf(m_window);
+    if (!tabs && m_window)
+        each(m_window);
+    const int shown = tabs ? tabs->currentIndex() : 0;
+    for (int index = 0; tabs && index < tabs->count(); ++index) {
+        tabs->setCurrentIndex(index);
+        each(m_window);
+    }
+    if (tabs)
+        tabs->setCurrentIndex(shown);
 }

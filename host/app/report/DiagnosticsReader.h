@@ -16,7 +16,7 @@ struct ShownRow
     QString caption;
     QString value;
 
-    /// Whether the value is neither empty nor the unknown text.
+    /// Returns false if the value is empty, the unknown text or "not implement".
     bool isKnown() const;
 };
 
@@ -52,7 +52,12 @@ public:
     /// All pages, with values: shows each tab once, and then again the one that is shown now.
     QList<ShownPage> read() const;
 
+    /// The same, but the values of each tab are read from the modem again.
+    QList<ShownPage> readAgain() const;
+
 private:
+    void visit(void (*each)(const QWidget *window)) const;
+
     QPointer<QWidget> m_window;
 };
 

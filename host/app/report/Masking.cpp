@@ -76,3 +76,19 @@ QString maskedValue(const ShownRow &row)
     }
     return row.value;
 }
+
+QString maskedValue(const ModemService::Detail &detail)
+{
+    const QString value = QString::fromStdString(detail.value);
+    switch (detail.kind) {
+    case ModemService::DetailKind::Plain:
+        break;
+    case ModemService::DetailKind::Device:
+    case ModemService::DetailKind::User:
+    case ModemService::DetailKind::Place:
+        return QString(value.size(), Hidden);
+    case ModemService::DetailKind::Address:
+        return maskedAddresses(value);
+    }
+    return value;
+}

@@ -4,12 +4,16 @@
 #ifndef REPORT_H
 #define REPORT_H
 
+#include "modem/Verdict.h"
 #include "report/DiagnosticsReader.h"
 
 #include <QPair>
 
-/// The captions and values of the diagnostics window, as text or as JSON. The head says when, where
-/// and with which versions they were read.
+#include <vector>
+
+/// The captions and values of the diagnostics window and what ModemManager tells besides, as text
+/// or as JSON. The head says when, where and with which versions they were read, and what stands in
+/// the way of a connection.
 class Report
 {
 public:
@@ -19,21 +23,31 @@ public:
         Masked ///< values that tell the device, its user or its place are hidden by maskedValue()
     };
 
-    /// Where the pages come from.
-    struct Source
+    /// A function of the SDK that failed.
+    struct Failure
     {
-        QString configuration; ///< the file that the window was made of
-        QString language;
-        QString modem;
-        QString problem; ///< of the modem; empty if there is none
+        QString function;
+        VELT_ERROR result;
     };
 
-    Report(const QList<ShownPage> &pages, const Source &source, Identifiers identifiers);
+    struct Content
+    {
+        QString configuration; ///< see ConfigFile::description()
+        QString language;
+        QString modem;
+        Verdict verdict;
+        bool lacksSignal; ///< whether the service has not read the signal in time
+        QList<ShownPage> pages;
+        std::vector<ModemService::Detail> details;
+        QList<Failure> failures;
+    };
+
+    Report(const Content &content, Identifiers identifiers);
 
     /// The pages as text: a line for each title and each row, an empty line between pages.
     static QString rows(const QList<ShownPage> &pages);
 
-    /// The head and the pages.
+    /// The head and all blocks.
     QString text() const;
 
     QByteArray json() const;
@@ -43,8 +57,8 @@ public:
     static bool write(const QByteArray &content, const QString &fileName, QString *error);
 
 private:
+    Content m_content;
     QList<QPair<QString, QString>> m_facts;
-    QList<ShownPage> m_pages;
 };
 
 #endif

@@ -4,31 +4,57 @@
 #ifndef MAINWINDOW_H
 #define MAINWINDOW_H
 
-#include "window/ModemWindow.h"
+#include "modem/ModemMonitor.h"
 
-class PluginLoader;
+#include <QWidget>
 
-/// The host's window. Its button opens the diagnostics window. The modem's window is shown and
-/// closed with it.
+class Diagnostics;
+class ModemSource;
+class QCheckBox;
+class QLabel;
+class QPushButton;
+
+/// The host's window: what stands in the way of a connection, which modem it is, its signal, and
+/// the way to the diagnostics window and to reports of it.
 class MainWindow : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// \a plugin must be started. \a modem and \a plugin must outlive the window.
-    MainWindow(const ModemSource &modem, const PluginLoader &plugin);
+    /// \a diagnostics and \a modem must outlive the window.
+    MainWindow(const ModemSource &modem, Diagnostics &diagnostics);
 
-    /// Opens the diagnostics window. Returns false, and shows a message, if that fails.
+    /// Opens the diagnostics window. Returns false if it could not be opened, which the host's
+    /// window then says.
     bool openDiagnostics();
 
 protected:
+    bool event(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    const PluginLoader &m_plugin;
-    ModemWindow m_modem;
+    void plug();
+    void unplug();
+    void copyReport();
+    void chooseReportFile();
+    void saveReport(const QString &fileName);
+    void showModem();
+    /// Null, which the window then says, if the diagnostics window could not be opened.
+    QByteArray report(bool asJson);
+
+    const ModemSource &m_modem;
+    Diagnostics &m_diagnostics;
+    const ModemMonitor m_monitor;
+    QLabel *m_verdict;
+    QLabel *m_description;
+    QLabel *m_state;
+    QLabel *m_network;
+    QLabel *m_signal;
     QLabel *m_message;
+    QPushButton *m_plugIn;
+    QPushButton *m_unplug;
+    QCheckBox *m_hideIdentifiers;
 };
 
 #endif

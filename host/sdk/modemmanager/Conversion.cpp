@@ -3,6 +3,7 @@
 
 #include "Conversion.h"
 
+#include "Properties.h"
 #include "sdk/VeltDevice.h"
 
 #include <QStringList>
@@ -45,7 +46,6 @@ enum SmsStorage
 
 const int packetAttached = 2;
 const unsigned simFacility = 1;
-const char cellLocation[] = "1";
 
 template <typename Number, size_t Size>
 int64_t lookUp(const Number (&table)[Size], int64_t code, int64_t unknown)
@@ -94,42 +94,10 @@ const struct
     {1u << 10, noCode, "CDMA 1x"},
 };
 
-// ---- Reading properties ----
-
-QVariant property(const QVariantMap &properties, const char *name)
-{
-    return properties.value(QLatin1String(name));
-}
-
-QString text(const QVariantMap &properties, const char *name)
-{
-    return property(properties, name).toString();
-}
-
-int64_t number(const QVariantMap &properties, const char *name)
-{
-    return property(properties, name).toLongLong();
-}
-
-bool has(const QVariantMap &properties, const char *name)
-{
-    return properties.contains(QLatin1String(name));
-}
-
-/// Returns false if the level is missing, or larger than any radio's.
-bool readLevel(const QVariantMap &signal, const char *name, double &level)
-{
-    bool isNumber = false;
-    level = property(signal, name).toDouble(&isNumber);
-    return isNumber && std::abs(level) <= 1000;
-}
-
 std::string latin1(const QString &text)
 {
     return text.toLatin1().toStdString();
 }
-
-// ---- Conversions ----
 
 class Converter
 {
@@ -149,6 +117,10 @@ public:
         convertSignal();
         convertMessages();
         convertConnections();
+        m_readings.condition = {static_cast<int>(number(m_modem, "State")),
+                                static_cast<int>(number(m_modem, "StateFailedReason")),
+                                static_cast<int>(number(m_modem, "PowerState"))};
+        m_readings.details = convertDetails(m_objects);
         return m_readings;
     }
 
@@ -237,14 +209,14 @@ private:
             numbers[NumberValue::SimStatus] = faulty ? 0 : 1;
         } else if (failed && number(m_modem, "StateFailedReason") == SimError) {
             numbers[NumberValue::SimStatus] = 0;
-        } else if (!isInitialising()) {
+        } else if (!isInitialising() && isUsable(m_modem)) {
             numbers[NumberValue::SimStatus] = 255;
             m_readings.simMissing = true;
         }
         set(TextValue::Imsi, text(m_objects.sim, "Imsi"));
         set(TextValue::Iccid, text(m_objects.sim, "SimIdentifier"));
 
-        if (!has(m_modem, "OwnNumbers"))
+        if (!m_modem.contains(QStringLiteral("OwnNumbers")))
             return;
         for (const QString &ownNumber : property(m_modem, "OwnNumbers").toStringList())
             m_readings.ownNumbers.push_back(latin1(ownNumber));
@@ -291,7 +263,7 @@ private:
                          [=](const auto &technology) {
                              return (technologies & technology.bits) == technology.bits;
                          });
-        if (used != std::end(accessTechnologies) && technologies != 0xFFFFFFFF) {
+        if (used != std::end(accessTechnologies) && technologies != AccessAny) {
             setHostText(TextValue::NetworkType, QLatin1String(used->name));
             if (used->code != noCode)
                 numbers[NumberValue::AccessTechnology] = used->code;
@@ -306,15 +278,15 @@ private:
         m_readings.texts[TextValue::OperatorShortName] = std::string();
         set(TextValue::OperatorCode, text(m_3gpp, "OperatorCode"));
 
-        const int64_t state =
-            lookUp(registrationStates, number(m_3gpp, "RegistrationState"), registrationUnknown);
+        const int64_t state = lookUp(registrationStates, number(m_3gpp, "RegistrationState", -1),
+                                     registrationUnknown);
         numbers[NumberValue::CsReportMode] = 2;
         numbers[NumberValue::CsState] = state;
-        if (!has(m_3gpp, "PacketServiceState"))
+        int64_t packet = 0;
+        if (!readNumber(property(m_3gpp, "PacketServiceState"), packet))
             return;
         // The service has one registration for both domains. It holds for the packet domain while
         // the modem is attached.
-        const int64_t packet = number(m_3gpp, "PacketServiceState");
         const int64_t attachment = lookUp(packetStates, packet, 255);
         const bool registered = state == 1 || state == 5;
         numbers[NumberValue::PsAttachment] = attachment;
@@ -326,25 +298,13 @@ private:
 
     void convertLocation()
     {
-        QString area;
-        QString cell;
-        // MCC, MNC, LAC, cell, TAC
-        const QStringList parts = text(m_objects.location, cellLocation).split(QLatin1Char(','));
-        if (parts.size() == 5) {
-            // 0 stands for what the service does not know, and FFFE for a deleted location area
-            // (3GPP TS 23.003). In E-UTRAN the tracking area stands in the location area's place.
-            const auto number = [&parts](int part) { return parts[part].toUInt(nullptr, 16); };
-            const bool hasLocationArea = number(2) != 0 && number(2) != 0xFFFE;
-            const int areaPart = hasLocationArea ? 2 : 4;
-            if (number(areaPart) != 0)
-                area = parts[areaPart];
-            if (number(3) != 0)
-                cell = parts[3];
-        }
+        // In E-UTRAN the tracking area stands in the location area's place.
+        const Cell cell = toCell(m_objects.location);
+        const QString area = cell.locationArea.isEmpty() ? cell.trackingArea : cell.locationArea;
         for (const TextValue value : {TextValue::CsLac, TextValue::PsLac})
             m_readings.texts[value] = latin1(area);
         for (const TextValue value : {TextValue::CsCellId, TextValue::PsCellId})
-            m_readings.texts[value] = latin1(cell);
+            m_readings.texts[value] = latin1(cell.identity);
     }
 
     bool readRssi(double &rssi) const
@@ -354,9 +314,10 @@ private:
             const QVariantMap signal = property(readings, technology).toMap();
             double rscp = 0;
             double ecIo = 0;
-            if (readLevel(signal, "rssi", rssi))
+            if (readLevel(property(signal, "rssi"), rssi))
                 return true;
-            if (readLevel(signal, "rscp", rscp) && readLevel(signal, "ecio", ecIo)) {
+            if (readLevel(property(signal, "rscp"), rscp) &&
+                readLevel(property(signal, "ecio"), ecIo)) {
                 rssi = rscp - ecIo;
                 return true;
             }
@@ -370,7 +331,7 @@ private:
         const bool tdScdma = productType() == VELT_PRODUCT_TD_SCDMA;
         const double top = tdScdma ? 91 : 31;
         double rssi = 0;
-        const QVariantList quality = property(m_modem, "SignalQuality").toList();
+        const QVariantList quality = toList(property(m_modem, "SignalQuality"));
         if (readRssi(rssi)) {
             const double raw = tdScdma ? rssi + 116 : (rssi + 113) / 2;
             numbers[NumberValue::Rssi] = std::lround(std::min(std::max(raw, 0.0), top));
@@ -381,11 +342,16 @@ private:
         }
         numbers[NumberValue::BitErrorRate] = 99;
 
-        const QVariantMap utran = property(interface("Modem.Signal"), "Umts").toMap();
+        const QVariantMap signal = interface("Modem.Signal");
         double level = 0;
-        if (readLevel(utran, "rscp", level))
+        for (const QVariant &technology : signal) {
+            for (const QVariant &value : technology.toMap())
+                m_readings.hasSignal = m_readings.hasSignal || readLevel(value, level);
+        }
+        const QVariantMap utran = property(signal, "Umts").toMap();
+        if (readLevel(property(utran, "rscp"), level))
             numbers[NumberValue::Rscp] = std::lround(level);
-        if (readLevel(utran, "ecio", level))
+        if (readLevel(property(utran, "ecio"), level))
             numbers[NumberValue::EcIo] = std::lround(level);
     }
 
@@ -449,6 +415,12 @@ private:
 };
 
 } // namespace
+
+bool ServiceObjects::operator==(const ServiceObjects &other) const
+{
+    return interfaces == other.interfaces && sim == other.sim && otherSims == other.otherSims &&
+           bearers == other.bearers && messages == other.messages && location == other.location;
+}
 
 bool isUsable(const QVariantMap &modem)
 {

@@ -5,6 +5,7 @@
 #define CONVERSION_H
 
 #include "Modem.h"
+#include "ModemService.h"
 
 #include <QList>
 #include <QMap>
@@ -20,9 +21,12 @@ struct ServiceObjects
 {
     QMap<QString, QVariantMap> interfaces; ///< the modem's, "Modem" or "Modem.Signal"
     QVariantMap sim;
+    QMap<QString, QVariantMap> otherSims; ///< of the modem's other slots, by path
     QList<QVariantMap> bearers;
     QList<QVariantMap> messages;
     QVariantMap location; ///< by the number of its source
+
+    bool operator==(const ServiceObjects &other) const;
 };
 
 /// The values of a modem. A value that is missing here, the modem does not have.
@@ -38,6 +42,10 @@ struct Readings
         std::map<TextValue, std::string> texts;
     };
     std::vector<Connection> connections; ///< the current one first
+    ModemService::Condition condition = {};
+    std::vector<ModemService::Detail> details;
+    bool hasSignal = false;    ///< the service has read it
+    bool awaitsSignal = false; ///< libsdk asked for it, and the service has not read it yet
 };
 
 /// How far the service is with a modem (its Modem.State).
@@ -51,7 +59,10 @@ enum ServiceModemState
 /// Whether anything can be read from the modem with these properties of the interface "Modem".
 bool isUsable(const QVariantMap &modem);
 
-/// All that the SDK says of a modem. Scales and states are those of 3GPP TS 27.007.
+/// All that libsdk says of a modem. Scales and states are those of 3GPP TS 27.007.
 SDK_EXPORT Readings convert(const ServiceObjects &objects);
+
+/// What convert() gives as details.
+std::vector<ModemService::Detail> convertDetails(const ServiceObjects &objects);
 
 #endif

@@ -12,6 +12,8 @@
 #include <condition_variable>
 #include <mutex>
 
+using ModemService::Status;
+
 namespace {
 
 using Lock = std::unique_lock<std::mutex>;
@@ -20,22 +22,18 @@ using Milliseconds = std::chrono::milliseconds;
 class Worker : public QThread
 {
 public:
-    Worker(int index, const ServiceWatcher::Report &report)
-        : m_index(index), m_timing(serviceTiming()), m_report(report)
+    Worker(int index, int generation)
+        : m_index(index), m_generation(generation), m_timing(serviceTiming())
     {
     }
 
 protected:
-    void run() override
-    {
-        const ServiceWatcher watcher(m_index, m_timing, m_report);
-        exec();
-    }
+    void run() override;
 
 private:
     const int m_index;
+    const int m_generation;
     const ServiceTiming m_timing;
-    const ServiceWatcher::Report m_report;
 };
 
 struct Attachment
@@ -46,16 +44,32 @@ struct Attachment
     std::mutex mutex; ///< guards all below
     std::condition_variable changed;
     int generation = 0; ///< number of the current worker; reports of earlier ones are dropped
-    int index = -1;     ///< number of the wanted modem; negative if none is
-    ServiceStatus status = ServiceStatus::Starting;
+    Status status = Status::Detached;
+    ServiceWatcher *watcher = nullptr; ///< the worker's
     std::shared_ptr<ServiceModem> modem;
     ServiceModem::Clock::time_point validUntil;
     int confirmation = 0; ///< ms
 
-    void confirm(ServiceStatus newStatus)
+    std::mutex listening; ///< held while the listener runs or is replaced
+    std::function<void()> listener;
+
+    void confirm(Status newStatus)
     {
         status = newStatus;
         validUntil = ServiceModem::Clock::now() + Milliseconds(confirmation);
+    }
+
+    void callListener()
+    {
+        std::lock_guard<std::mutex> lock(listening);
+        if (listener)
+            listener();
+    }
+
+    /// Null if there is none or its reading no longer counts.
+    std::shared_ptr<ServiceModem> validModem() const
+    {
+        return modem && modem->isValid() ? modem : nullptr;
     }
 };
 
@@ -69,13 +83,19 @@ Attachment &attachment()
 const unsigned long patience = 1000; // ms
 
 /// Takes a report of the worker.
-void report(int generation, ServiceStatus status, const std::shared_ptr<ServiceModem> &modem)
+void report(int generation, Status status, const std::shared_ptr<ServiceModem> &modem, bool changed)
 {
     Attachment &state = attachment();
     Lock lock(state.mutex);
     if (generation != state.generation)
         return;
+    if (status == Status::NotAnswering) {
+        lock.unlock();
+        state.callListener();
+        return;
+    }
     const std::shared_ptr<ServiceModem> before = state.modem;
+    const bool isNew = changed || status != state.status;
     state.confirm(status);
     state.modem = modem;
     SdkControl::update(modem);
@@ -89,6 +109,35 @@ void report(int generation, ServiceStatus status, const std::shared_ptr<ServiceM
         SdkControl::raiseEvent(VELT_EVENT_DEV_ARRIVAL);
     if (modem && modem->isReady() && !(same && before->isReady()))
         SdkControl::raiseEvent(VELT_EVENT_DEV_DEVICE_INIT_FINISH);
+
+    if (isNew)
+        state.callListener();
+}
+
+/// Asks for a newer reading.
+void readAgain()
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    if (state.watcher)
+        QMetaObject::invokeMethod(state.watcher, "read", Qt::QueuedConnection);
+}
+
+void Worker::run()
+{
+    Attachment &state = attachment();
+    const auto takeReport = [this](Status status, const std::shared_ptr<ServiceModem> &modem,
+                                   bool changed) { report(m_generation, status, modem, changed); };
+    ServiceWatcher watcher(m_index, m_timing, takeReport, readAgain);
+    const auto offer = [&](ServiceWatcher *offered) {
+        Lock lock(state.mutex);
+        // A worker that hung may get here after detach().
+        if (m_generation == state.generation)
+            state.watcher = offered;
+    };
+    offer(&watcher);
+    exec();
+    offer(nullptr);
 }
 
 } // namespace
@@ -110,16 +159,12 @@ void attach(int index)
     {
         Lock lock(state.mutex);
         generation = ++state.generation;
-        state.index = index;
         state.confirmation = serviceTiming().confirmation;
-        state.confirm(ServiceStatus::Starting);
+        state.confirm(Status::Starting);
         state.modem.reset();
         SdkControl::attach(nullptr);
     }
-    state.worker = std::make_unique<Worker>(
-        index, [generation](ServiceStatus status, const std::shared_ptr<ServiceModem> &modem) {
-            report(generation, status, modem);
-        });
+    state.worker = std::make_unique<Worker>(index, generation);
     state.worker->start();
 }
 
@@ -131,12 +176,13 @@ bool detach()
         return true;
     state.worker->quit();
     const bool ended = state.worker->wait(patience);
+    Lock lock(state.mutex);
     if (!ended)
         static_cast<void>(state.worker.release()); // it must not be destroyed while it runs
     state.worker.reset();
-    Lock lock(state.mutex);
     ++state.generation;
-    state.index = -1;
+    state.status = Status::Detached;
+    state.watcher = nullptr;
     state.modem.reset();
     SdkControl::attach(nullptr);
     return ended;
@@ -147,30 +193,50 @@ bool isPresent(int milliseconds)
     Attachment &state = attachment();
     Lock lock(state.mutex);
     state.changed.wait_for(lock, Milliseconds(milliseconds),
-                           [&] { return state.status != ServiceStatus::Starting; });
-    return state.modem && state.modem->isValid();
+                           [&] { return state.status != Status::Starting; });
+    return state.validModem() != nullptr;
 }
 
-std::string problem()
+Status status()
 {
     Attachment &state = attachment();
     Lock lock(state.mutex);
-    if (state.index < 0)
-        return std::string();
-    if (state.status == ServiceStatus::NoBus)
-        return "The system's message bus does not answer.";
-    if (state.status == ServiceStatus::NoService)
-        return "ModemManager is not running.";
-    if (ServiceModem::Clock::now() > state.validUntil)
-        return "ModemManager has not answered for " + std::to_string(state.confirmation / 1000) +
-               " seconds.";
-    if (state.status == ServiceStatus::Starting)
-        return "Neither the system's message bus nor ModemManager has answered yet.";
-    if (!state.modem)
-        return state.index == 0 ? "ModemManager knows no usable modem."
-                                : "ModemManager knows no usable modem with the number " +
-                                      std::to_string(state.index) + ".";
-    return std::string();
+    const bool answers = state.status != Status::NoBus && state.status != Status::NoService &&
+                         state.status != Status::Detached;
+    return answers && ServiceModem::Clock::now() > state.validUntil ? Status::NotAnswering
+                                                                    : state.status;
+}
+
+Condition condition()
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    const auto modem = state.validModem();
+    return modem ? modem->readings().condition : Condition{0, 0, 0};
+}
+
+std::vector<Detail> details()
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    const auto modem = state.validModem();
+    return modem ? modem->readings().details : std::vector<Detail>();
+}
+
+bool waitForSignal(int milliseconds)
+{
+    Attachment &state = attachment();
+    Lock lock(state.mutex);
+    return state.changed.wait_for(lock, Milliseconds(milliseconds), [&] {
+        return !state.modem || !state.modem->readings().awaitsSignal;
+    });
+}
+
+void setListener(const std::function<void()> &changed)
+{
+    Attachment &state = attachment();
+    std::lock_guard<std::mutex> listening(state.listening);
+    state.listener = changed;
 }
 
 } // namespace ModemService

@@ -9,6 +9,8 @@
 
 namespace {
 
+const auto freshness = std::chrono::milliseconds(200);
+
 template <typename Key, typename Value>
 VELT_ERROR lookUp(const std::map<Key, Value> &values, Key key, Value &value)
 {
@@ -22,9 +24,18 @@ VELT_ERROR lookUp(const std::map<Key, Value> &values, Key key, Value &value)
 } // namespace
 
 ServiceModem::ServiceModem(const QString &path, const Readings &readings,
-                           Clock::time_point validUntil)
-    : m_path(path), m_readings(readings), m_validUntil(validUntil)
+                           Clock::time_point answered, std::chrono::milliseconds validity,
+                           const std::function<void()> &readAgain)
+    : m_path(path), m_readings(readings), m_answered(answered), m_validity(validity),
+      m_readAgain(readAgain)
 {
+}
+
+bool ServiceModem::use() const
+{
+    if (Clock::now() > m_answered + freshness && !m_replaced.exchange(true))
+        m_readAgain();
+    return isValid();
 }
 
 bool ServiceModem::isReady() const
@@ -34,18 +45,18 @@ bool ServiceModem::isReady() const
 
 VELT_ERROR ServiceModem::find(TextValue value, std::string &text) const
 {
-    return isValid() ? lookUp(m_readings.texts, value, text) : VELT_ERROR_TIMEOUT;
+    return use() ? lookUp(m_readings.texts, value, text) : VELT_ERROR_TIMEOUT;
 }
 
 VELT_ERROR ServiceModem::find(NumberValue value, int64_t &number) const
 {
-    return isValid() ? lookUp(m_readings.numbers, value, number) : VELT_ERROR_TIMEOUT;
+    return use() ? lookUp(m_readings.numbers, value, number) : VELT_ERROR_TIMEOUT;
 }
 
 VELT_ERROR ServiceModem::readConnection(TextValue value, const std::string &,
                                         const std::string &profile, std::string &text) const
 {
-    if (!isValid())
+    if (!use())
         return VELT_ERROR_TIMEOUT;
     const auto connection =
         std::find_if(m_readings.connections.begin(), m_readings.connections.end(),
@@ -71,5 +82,5 @@ VELT_ERROR ServiceModem::readOwnNumber(int32_t index, std::string &name, std::st
 
 VELT_ERROR ServiceModem::setReportMode(int32_t)
 {
-    return isValid() ? VELT_SUCCESS : VELT_ERROR_TIMEOUT;
+    return use() ? VELT_SUCCESS : VELT_ERROR_TIMEOUT;
 }

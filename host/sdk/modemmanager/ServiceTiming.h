@@ -9,7 +9,7 @@
 /// How long the service may take; shorter in tests. Read by ModemService::attach().
 struct ServiceTiming
 {
-    int poll = 5000;          ///< between two readings without any change, ms
+    int poll = 11000;         ///< between two questions whether anything has changed, ms
     int confirmation = 15000; ///< how long a reading counts, ms
 };
 

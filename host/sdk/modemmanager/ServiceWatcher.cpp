@@ -4,12 +4,13 @@
 #include "ServiceWatcher.h"
 
 #include <QDBusArgument>
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
 #include <algorithm>
+
+using ModemService::Status;
 
 namespace {
 
@@ -23,6 +24,10 @@ const char properties[] = "org.freedesktop.DBus.Properties";
 const unsigned signalPeriod = 5; // s
 const int collectTime = 100;     // ms; changes come in groups
 const int detailTime = 2000;     // ms
+const int farewellTime = 500;    // ms
+
+const QString signalInterface = QStringLiteral("Modem.Signal");
+const QString locationInterface = QStringLiteral("Modem.Location");
 
 QVariant toPlain(const QDBusArgument &argument);
 
@@ -94,9 +99,9 @@ QString identity(const QVariantMap &modem)
 /// One reading of all objects, which takes several calls.
 struct ServiceWatcher::Reading
 {
-    ServiceStatus status = ServiceStatus::Answering;
-    bool confirmed = true;
-    ServiceModem::Clock::time_point answered; ///< when the objects came
+    Status status = Status::Present;
+    bool confirmed = false;                   ///< a call was answered
+    ServiceModem::Clock::time_point answered; ///< last
     int outstanding = 0;                      ///< calls
     QString path;                             ///< the modem's
     ServiceObjects objects;
@@ -105,22 +110,47 @@ struct ServiceWatcher::Reading
     {
         return objects.interfaces.value(QStringLiteral("Modem")).value(QLatin1String(property));
     }
+    void confirm()
+    {
+        confirmed = true;
+        answered = ServiceModem::Clock::now();
+    }
+    unsigned signalRate() const
+    {
+        return objects.interfaces.value(signalInterface).value(QStringLiteral("Rate")).toUInt();
+    }
 };
 
-ServiceWatcher::ServiceWatcher(int index, const ServiceTiming &timing, const Report &report)
-    : m_index(index), m_timing(timing), m_report(report), m_bus(busName)
+ServiceWatcher::ServiceWatcher(int index, const ServiceTiming &timing, const Report &report,
+                               const std::function<void()> &readAgain)
+    : m_index(index), m_timing(timing), m_report(report), m_readAgain(readAgain), m_bus(busName)
 {
     m_soon.setSingleShot(true);
     m_soon.setInterval(collectTime);
     connect(&m_soon, &QTimer::timeout, this, &ServiceWatcher::read);
-    connect(&m_poll, &QTimer::timeout, this, &ServiceWatcher::read);
+    connect(&m_poll, &QTimer::timeout, this, &ServiceWatcher::poll);
     m_poll.start(m_timing.poll);
+    m_expiry.setSingleShot(true);
+    m_expiry.setTimerType(Qt::PreciseTimer);
+    m_expiry.setInterval(m_timing.confirmation);
+    connect(&m_expiry, &QTimer::timeout, this, [this] {
+        m_last.reset();
+        m_report(Status::NotAnswering, nullptr, true);
+    });
+    m_expiry.start();
     read();
 }
 
 // The connection stays open for the next watcher: Qt crashes when one is closed while calls are
 // under way.
-ServiceWatcher::~ServiceWatcher() = default;
+ServiceWatcher::~ServiceWatcher()
+{
+    // If the service does not answer, the signal stays on.
+    const unsigned rate = m_last ? m_last->signalRate() : 0;
+    const bool isOurs = rate == signalPeriod || rate == 0; // the rate that was set may come later
+    if (m_last && m_last->path == m_signalPath && isOurs && !m_signalRefused)
+        m_bus.call(signalSetup(m_signalPath, 0), QDBus::Block, farewellTime);
+}
 
 bool ServiceWatcher::connectBus()
 {
@@ -133,16 +163,14 @@ bool ServiceWatcher::connectBus()
     }
     if (!m_bus.isConnected())
         return false;
-    const auto connectSignal = [this](const char *interface, const char *signal) {
+    const auto connectSignal = [this](const char *interface, const char *signal, const char *slot) {
         m_bus.connect(service, QString(), QLatin1String(interface), QLatin1String(signal), this,
-                      SLOT(readSoon()));
+                      slot);
     };
-    connectSignal(properties, "PropertiesChanged");
-    connectSignal(objectManager, "InterfacesAdded");
-    connectSignal(objectManager, "InterfacesRemoved");
-    // What is kept is of the service on the bus before.
-    m_messages.clear();
-    m_signalAsked.invalidate();
+    connectSignal(properties, "PropertiesChanged", SLOT(onPropertiesChanged(QDBusMessage)));
+    connectSignal(objectManager, "InterfacesAdded", SLOT(readSoon()));
+    connectSignal(objectManager, "InterfacesRemoved", SLOT(readSoon()));
+    forget();
     m_owner = std::make_unique<QDBusServiceWatcher>(service, m_bus,
                                                     QDBusServiceWatcher::WatchForOwnerChange);
     connect(m_owner.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -154,14 +182,50 @@ bool ServiceWatcher::connectBus()
 
 void ServiceWatcher::onServiceOwnerChanged(const QString &newOwner)
 {
-    // A new service numbers its objects anew.
     m_reading.reset();
-    m_messages.clear();
-    m_signalAsked.invalidate();
+    forget();
     if (newOwner.isEmpty())
-        m_report(ServiceStatus::NoService, nullptr);
+        m_report(Status::NoService, nullptr, false);
     else
         readSoon();
+}
+
+/// What is kept is of the service before. A new one numbers its objects anew.
+void ServiceWatcher::forget()
+{
+    m_last.reset();
+    m_messages.clear();
+    m_signalPath.clear();
+}
+
+void ServiceWatcher::onPropertiesChanged(const QDBusMessage &message)
+{
+    const QString interface = message.arguments().value(0).toString();
+    if (m_reading || !m_last || message.path() != m_last->path ||
+        interface != QLatin1String(servicePrefix) + signalInterface) {
+        readSoon();
+        return;
+    }
+    // The signal changes every few seconds, and no other value with it.
+    const auto reading = std::make_shared<Reading>(*m_last);
+    reading->confirm();
+    reading->objects.interfaces[signalInterface].insert(
+        toPlain(message.arguments().value(1)).toMap());
+    finish(reading);
+}
+
+void ServiceWatcher::poll()
+{
+    if (m_reading)
+        return;
+    if (!m_last || m_last->objects.location.isEmpty()) {
+        read();
+        return;
+    }
+    m_changed = false;
+    m_reading = std::make_shared<Reading>(*m_last);
+    m_reading->confirmed = false;
+    askLocation(m_reading);
 }
 
 void ServiceWatcher::readSoon()
@@ -177,7 +241,7 @@ void ServiceWatcher::read()
     if (m_reading)
         return;
     if (!connectBus()) {
-        m_report(ServiceStatus::NoBus, nullptr);
+        m_report(Status::NoBus, nullptr, false);
         return;
     }
     m_changed = false;
@@ -204,18 +268,15 @@ void ServiceWatcher::ask(const ReadingPointer &reading, const QString &path, con
             return;
         const QDBusMessage reply = call->reply();
         const QDBusError error(reply);
-        if (!isDetail)
-            reading->answered = ServiceModem::Clock::now();
         if (!error.isValid()) {
+            reading->confirm();
             take(toPlain(reply.arguments().value(0)));
         } else if (error.type() == QDBusError::ServiceUnknown ||
                    error.name() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner")) {
-            reading->status = ServiceStatus::NoService;
+            reading->status = Status::NoService;
         } else if (error.type() == QDBusError::Disconnected ||
                    error.type() == QDBusError::NoServer) {
-            reading->status = ServiceStatus::NoBus;
-        } else if (!isDetail) {
-            reading->confirmed = false;
+            reading->status = Status::NoBus;
         } // Else an object has just gone, or has no such value now.
         if (--reading->outstanding == 0)
             finish(reading);
@@ -238,22 +299,25 @@ void ServiceWatcher::choose(const ReadingPointer &reading, const QVariantMap &ob
         return objects[path].toMap().value(modemInterface).toMap();
     };
     QStringList usable;
-    for (const QString &path : objects.keys()) {
-        const QVariantMap modem = modemAt(path);
-        if (!modem.isEmpty() && isUsable(modem))
-            usable << path;
-    }
-    std::sort(usable.begin(), usable.end(), [](const QString &left, const QString &right) {
+    QStringList failed;
+    QStringList paths = objects.keys();
+    std::sort(paths.begin(), paths.end(), [](const QString &left, const QString &right) {
         return pathNumber(left) < pathNumber(right);
     });
+    for (const QString &path : paths) {
+        const QVariantMap modem = modemAt(path);
+        if (!modem.isEmpty())
+            (isUsable(modem) ? usable : failed) << path;
+    }
+    const QStringList modems = usable + failed;
     const auto isKnown = [&](const QString &path) {
         return !m_identity.isEmpty() && identity(modemAt(path)) == m_identity;
     };
     // Where several modems have the same identity, the one with the same path is taken.
-    auto known = std::find(usable.cbegin(), usable.cend(), m_path);
-    if (known == usable.cend() || !isKnown(m_path))
-        known = std::find_if(usable.cbegin(), usable.cend(), isKnown);
-    reading->path = known != usable.cend() ? *known : usable.value(m_index);
+    auto known = std::find(modems.cbegin(), modems.cend(), m_path);
+    if (known == modems.cend() || !isKnown(m_path))
+        known = std::find_if(modems.cbegin(), modems.cend(), isKnown);
+    reading->path = known != modems.cend() ? *known : modems.value(m_index);
     m_path = reading->path;
     if (reading->path.isEmpty())
         return;
@@ -266,7 +330,6 @@ void ServiceWatcher::choose(const ReadingPointer &reading, const QVariantMap &ob
     if (m_identity.isEmpty() && reading->modem("State").toInt() > ModemInitialising)
         m_identity = identity(modemAt(reading->path));
     askDetails(reading);
-    setUpSignal(*reading);
 }
 
 void ServiceWatcher::askDetails(const ReadingPointer &reading)
@@ -280,9 +343,14 @@ void ServiceWatcher::askDetails(const ReadingPointer &reading)
     for (const QString &path : bearers)
         askProperties(reading, path, "Bearer",
                       [&objects](const QVariantMap &values) { objects.bearers << values; });
-    if (objects.interfaces.contains(QStringLiteral("Modem.Location")))
-        ask(reading, reading->path, "org.freedesktop.ModemManager1.Modem.Location", "GetLocation",
-            {}, [&objects](const QVariant &location) { objects.location = location.toMap(); });
+    for (const QString &path : reading->modem("SimSlots").toStringList()) {
+        if (path.size() > 1 && path != sim)
+            askProperties(reading, path, "Sim", [&objects, path](const QVariantMap &values) {
+                objects.otherSims[path] = values;
+            });
+    }
+    if (objects.interfaces.contains(locationInterface))
+        askLocation(reading);
 
     const QStringList messages = objects.interfaces.value(QStringLiteral("Modem.Messaging"))
                                      .value(QLatin1String("Messages"))
@@ -298,37 +366,72 @@ void ServiceWatcher::askDetails(const ReadingPointer &reading)
     m_messages = kept;
 }
 
-/// Asks the service to read the signal. No other request changes anything in the service.
+void ServiceWatcher::askLocation(const ReadingPointer &reading)
+{
+    ServiceObjects &objects = reading->objects;
+    ask(reading, reading->path, "org.freedesktop.ModemManager1.Modem.Location", "GetLocation", {},
+        [&objects](const QVariant &location) { objects.location = location.toMap(); });
+}
+
+QDBusMessage ServiceWatcher::signalSetup(const QString &path, unsigned period) const
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        service, path, QLatin1String(servicePrefix) + signalInterface, QStringLiteral("Setup"));
+    message.setArguments({period});
+    return message;
+}
+
+/// Asks the service to read the signal, once for each modem that is switched on. No other request
+/// changes anything in the service.
 void ServiceWatcher::setUpSignal(const Reading &reading)
 {
-    const QString interface = QStringLiteral("Modem.Signal");
-    const QVariantMap signal = reading.objects.interfaces.value(interface);
-    if (signal.isEmpty() || signal.value(QLatin1String("Rate")).toUInt() != 0 ||
-        reading.modem("State").toInt() < ModemEnabled)
+    if (reading.signalRate() != 0)
         return;
-    if (m_signalAsked.isValid() && !m_signalAsked.hasExpired(1000 * signalPeriod))
-        return;
-    m_signalAsked.start();
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        service, reading.path, QLatin1String(servicePrefix) + interface, QStringLiteral("Setup"));
-    message.setArguments({signalPeriod});
-    m_bus.send(message);
+    if (reading.modem("State").toInt() < ModemEnabled) {
+        m_signalPath.clear();
+    } else if (reading.path != m_signalPath &&
+               !reading.objects.interfaces.value(signalInterface).isEmpty()) {
+        m_signalPath = reading.path;
+        m_signalRefused = false;
+        auto *call = new QDBusPendingCallWatcher(
+            m_bus.asyncCall(signalSetup(reading.path, signalPeriod)), this);
+        connect(call, &QDBusPendingCallWatcher::finished, this, [=] {
+            call->deleteLater();
+            m_signalRefused = call->isError();
+            if (m_signalRefused)
+                readSoon();
+        });
+    }
 }
 
 void ServiceWatcher::finish(const ReadingPointer &reading)
 {
     m_reading.reset();
-    if (reading->status != ServiceStatus::Answering) {
-        m_report(reading->status, nullptr);
+    if (reading->status != Status::Present) {
+        m_last.reset();
+        m_report(reading->status, nullptr, false);
     } else if (reading->confirmed) {
+        reading->objects.messages = m_messages.values();
+        const bool changed =
+            !m_last || m_last->path != reading->path || !(m_last->objects == reading->objects);
+        m_last = reading;
         std::shared_ptr<ServiceModem> modem;
         if (!reading->path.isEmpty()) {
-            reading->objects.messages = m_messages.values();
-            modem = std::make_shared<ServiceModem>(
-                reading->path, convert(reading->objects),
-                reading->answered + std::chrono::milliseconds(m_timing.confirmation));
+            setUpSignal(*reading);
+            Readings readings = convert(reading->objects);
+            readings.awaitsSignal =
+                reading->path == m_signalPath && !m_signalRefused && !readings.hasSignal;
+            modem = std::make_shared<ServiceModem>(reading->path, readings, reading->answered,
+                                                   std::chrono::milliseconds(m_timing.confirmation),
+                                                   m_readAgain);
         }
-        m_report(ServiceStatus::Answering, modem);
+        m_report(modem ? Status::Present : Status::NoModem, modem, changed);
+        m_expiry.start();
+    } else if (m_last) {
+        // The location alone was not told: the other values need to be confirmed in another way.
+        m_last.reset();
+        read();
+        return;
     }
     if (m_changed)
         readSoon();

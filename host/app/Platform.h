@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#ifndef DISPLAY_H
-#define DISPLAY_H
+#ifndef PLATFORM_H
+#define PLATFORM_H
 
 /// Where Qt shows the windows.
-namespace Display {
+namespace Platform {
 
 /// Sets what Qt reads from the environment when the application object is made: windows are drawn
 /// offscreen if \a offscreen is set or if the environment names no display.
@@ -15,6 +15,6 @@ void choose(bool offscreen);
 /// exist.
 bool isMissing();
 
-} // namespace Display
+} // namespace Platform
 
 #endif

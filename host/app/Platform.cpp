@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
-#include "Display.h"
+#include "Platform.h"
 
 #include <QGuiApplication>
 
 static bool s_named = true;
 
-void Display::choose(bool offscreen)
+void Platform::choose(bool offscreen)
 {
     s_named = false;
     for (const char *name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
@@ -19,7 +19,7 @@ void Display::choose(bool offscreen)
         qputenv("QT_XCB_GL_INTEGRATION", "none");
 }
 
-bool Display::isMissing()
+bool Platform::isMissing()
 {
     // Qt's option -platform may have chosen another platform, whose windows can be seen.
     return !s_named && QGuiApplication::platformName() == QLatin1String("offscreen");

@@ -9,7 +9,7 @@
 using namespace TestSupport;
 
 /// What a maker of a host does: checks an SDK, and puts the module into a host of few lines.
-class Makers : public QObject
+class MakerTools : public QObject
 {
     Q_OBJECT
 
@@ -33,7 +33,7 @@ class Makers : public QObject
     }
 
 private Q_SLOTS:
-    void modem_data() { addRows(TEST_SOURCE_DIR "/makers.txt", "modems"); }
+    void modem_data() { addRows(TEST_SOURCE_DIR "/tools.txt", "modems"); }
     void modem()
     {
         QFETCH(QStringList, fields);
@@ -45,7 +45,7 @@ private Q_SLOTS:
         QCOMPARE(outcome.output.count(" not seen  "), fields.at(0) == "failing" ? 5 : 0);
     }
 
-    void fault_data() { addRows(TEST_SOURCE_DIR "/makers.txt", "faults"); }
+    void fault_data() { addRows(TEST_SOURCE_DIR "/tools.txt", "faults"); }
     void fault()
     {
         QFETCH(QStringList, fields);
@@ -60,14 +60,14 @@ private Q_SLOTS:
         QVERIFY2(findings.contains(fields.at(2)), qPrintable(lines.at(1)));
     }
 
-    void commandLine_data() { addRows(TEST_SOURCE_DIR "/makers.txt", "command line"); }
+    void commandLine_data() { addRows(TEST_SOURCE_DIR "/tools.txt", "command line"); }
     void commandLine()
     {
         QFETCH(QStringList, fields);
         const Outcome outcome =
             run(SDK_CHECK, fields.at(1)
                                .split(' ', Qt::SkipEmptyParts)
-                               .replaceInStrings("@TABLE@", TEST_SOURCE_DIR "/makers.txt"));
+                               .replaceInStrings("@TABLE@", TEST_SOURCE_DIR "/tools.txt"));
         QCOMPARE(outcome.code, fields.at(2).toInt());
         QVERIFY2(fields.at(3) == "-" ? outcome.output.isEmpty()
                                      : outcome.output.contains(fields.at(3)),
@@ -75,16 +75,20 @@ private Q_SLOTS:
         QVERIFY2(outcome.errors.contains(fields.at(4)), qPrintable(outcome.errors));
     }
 
+    void minimalHost_data() { addRows(TEST_SOURCE_DIR "/tools.txt", "minimal host"); }
     void minimalHost()
     {
+        QFETCH(QStringList, fields);
         const QTemporaryDir folder;
         const QString picture = folder.filePath("window.png");
-        const Outcome outcome = run(MINIMAL_HOST, {MODULE, TEXTS, picture}, {"SDK_MODEM=wcdma"});
+        // The singletons of the module outlive it, by their counting rule.
+        const Outcome outcome = run(MINIMAL_HOST, {MODULE, TEXTS, picture},
+                                    {"SDK_MODEM=" + fields.at(0), "ASAN_OPTIONS=detect_leaks=0"});
         QVERIFY2(outcome.code == 0, qPrintable(outcome.errors));
-        QVERIFY2(outcome.output.contains("\nIMEI\n001017003100016\n"), qPrintable(outcome.output));
+        QVERIFY2(outcome.output.contains(fields.at(1)), qPrintable(outcome.output));
         QVERIFY(QImage(picture).width() > 300);
     }
 };
 
-QTEST_APPLESS_MAIN(Makers)
-#include "makers.moc"
+QTEST_APPLESS_MAIN(MakerTools)
+#include "tools.moc"

@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#ifndef CONFIGFILE_H
+#define CONFIGFILE_H
+
+#include <QString>
+
+namespace ConfigFile {
+
+/// Reads a file of at most \a largest bytes. Opens regular files only, so that it never waits for
+/// content. Returns false, with the reason in *\a error, if the file cannot be read.
+bool read(const QString &fileName, qint64 largest, QByteArray *content, QString *error);
+
+/// Returns true if there is something with this name that the host does not let the plug-in open:
+/// what is not a regular file, or larger than 16 MB.
+bool isRefused(const QString &fileName);
+
+/// What a report's head says of a configuration, which has no version of its own: its sum, and
+/// where it is broken; or why it cannot be read.
+QString description(const QString &fileName);
+
+} // namespace ConfigFile
+
+#endif

@@ -79,9 +79,9 @@ int main()
     const char *const report[] = {BENCH_HOST, "--modem", "wcdma", "--report", nullptr};
     const char *const bare[] = {BENCH_BARE, nullptr};
     const char *const bareToEnd[] = {BENCH_BARE, "--end", nullptr};
-    printLine("start of diagnosis-host to a filled window", "ms", 1e3, 1.25, 40,
+    printLine("start of diagnosis-host to a filled window", "ms", 1e3, 1.25, 100,
               [&](bool product) { return run(product ? host : bare); });
-    printLine("--report, from start to end", "ms", 1e3, 0, 40,
+    printLine("--report, from start to end", "ms", 1e3, 0, 100,
               [&](bool product) { return run(product ? report : bareToEnd); });
     printLine("memory (PSS) of the filled window", "MB", 1, 1.15, 10,
               [&](bool product) { return run(product ? host : bare, megabytes); });

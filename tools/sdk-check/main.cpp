@@ -230,7 +230,8 @@ public:
         }
         if (row.longestCall > longestAllowed)
             findings += (findings.empty() ? "" : "; ") + std::string("takes longer than 50 ms");
-        const char *const result = row.result[0] || isFunction ? row.result : "not seen";
+        const char *const result =
+            row.result[0] || isFunction || !findings.empty() ? row.result : "not seen";
         std::printf("%-52s %-12s %10s  %s\n", row.name, result, time.c_str(), findings.c_str());
 
         m_findings += findings.empty() ? 0 : 1;

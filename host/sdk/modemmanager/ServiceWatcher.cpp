@@ -148,7 +148,8 @@ ServiceWatcher::~ServiceWatcher()
     // If the service does not answer, the signal stays on.
     const unsigned rate = m_last ? m_last->signalRate() : 0;
     const bool isOurs = rate == signalPeriod || rate == 0; // the rate that was set may come later
-    if (m_last && m_last->path == m_signalPath && isOurs && !m_signalRefused)
+    if (m_last && !m_signalPath.isEmpty() && m_last->path == m_signalPath && isOurs &&
+        !m_signalRefused)
         m_bus.call(signalSetup(m_signalPath, 0), QDBus::Block, farewellTime);
 }
 

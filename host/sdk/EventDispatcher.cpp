@@ -52,14 +52,12 @@ bool EventDispatcher::remove(Kind kind, VELT_DEVICE_CALLBACK callback)
 
 void EventDispatcher::raise(int event)
 {
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_lastRaised = ++m_count;
-        m_events.push_back({m_lastRaised, event});
-        if (!m_worker.joinable())
-            m_worker = std::thread(&EventDispatcher::run, this);
-    }
-    m_changed.notify_all();
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_lastRaised = ++m_count;
+    m_events.push_back({m_lastRaised, event});
+    if (!m_worker.joinable())
+        m_worker = std::thread(&EventDispatcher::run, this);
+    m_changed.notify_all(); // in the lock: the library may end as soon as it is free
 }
 
 bool EventDispatcher::wait(int milliseconds)

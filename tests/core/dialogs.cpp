@@ -47,8 +47,9 @@ const DialogEnding dialogEndings[] = {
     {"close, never shown", false, false, [](ExtendDialog *d, QWidget *) { d->close(); }},
     {"parent, never shown", false, true, [](ExtendDialog *, QWidget *p) { delete p; }},
 };
-enum Afterwards { Nothing, DeletedOnClose, SlotDeletesLater, SlotDeletes };
-const char *const afterwards[] = {"", ", deleted on close", ", slot deletes later", ", slot deletes"};
+enum Afterwards { Nothing, DeletedOnClose, SlotDeletesLater, SlotDeletes, FinishedDeletes };
+const char *const afterwards[] = {"", ", deleted on close", ", slot deletes later", ", slot deletes",
+                                  ", slot of finished() deletes"};
 
 const BoxEnding boxEndings[] = {
     {"second button", 2, [](QMessageBox *b, QWidget *) { b->buttons().at(1)->click(); }},
@@ -72,9 +73,11 @@ private Q_SLOTS:
         QTest::addColumn<int>("ending");
         QTest::addColumn<int>("after");
         for (const DialogEnding &ending : dialogEndings) {
-            // A slot cannot delete what is being deleted.
-            for (int after = Nothing; after <= (ending.destroys ? SlotDeletesLater : SlotDeletes);
-                 ++after)
+            // A slot cannot delete what is being deleted, and only a visible dialog finishes.
+            const Afterwards last = ending.destroys ? SlotDeletesLater
+                                    : ending.shown  ? FinishedDeletes
+                                                    : SlotDeletes;
+            for (int after = Nothing; after <= last; ++after)
                 QTest::addRow("%s%s", ending.name, afterwards[after])
                     << int(&ending - dialogEndings) << after;
         }
@@ -95,6 +98,8 @@ private Q_SLOTS:
             else if (after == SlotDeletes)
                 delete dialog;
         });
+        if (after == FinishedDeletes)
+            connect(dialog, &QDialog::finished, this, [&] { delete dialog; });
         if (dialogEndings[ending].shown)
             dialog->show();
 

@@ -56,7 +56,7 @@ bool ModemSource::attach(const QString &name, Absence absence, QString *error)
 
     bool isNumber = true;
     const QString number = name.section(QLatin1Char(':'), 1);
-    m_index = number.isNull() ? 0 : number.toInt(&isNumber);
+    m_index = name.contains(QLatin1Char(':')) ? number.toInt(&isNumber) : 0;
     if (!isNumber || m_index < 0) {
         *error = QStringLiteral("\"%1\" is not the number of a modem, which is 0 for the first")
                      .arg(number);

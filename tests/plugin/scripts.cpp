@@ -41,7 +41,7 @@ using namespace TestSupport;
 
 namespace {
 
-/// Notes who asks the toolkit for a text: a resource key handed over as a literal would go there,
+/// Notes who asks Qt for a text: a resource key handed over as a literal would go there,
 /// with the class as its context, and not to the host.
 class TranslationRecorder : public QTranslator
 {

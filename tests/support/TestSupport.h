@@ -39,7 +39,7 @@ QStringList list(const char *texts);
 /// Changes values of the modem: "key=value", separated by semicolons.
 void setValues(const QString &changes);
 
-/// Takes the toolkit's messages while it lives. Debug lines are the plug-in's log; their time
+/// Takes Qt's messages while it lives. Debug lines are the plug-in's log; their time
 /// field, if well-formed, reads "TIME". All other messages are warnings.
 class LogCapture
 {

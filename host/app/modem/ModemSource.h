@@ -37,7 +37,7 @@ public:
     bool attach(const QString &name, Absence absence, QString *error);
 
     /// Takes the modem away. False when the system's message bus hangs, so that the program must
-    /// leave without the toolkit's end.
+    /// leave without Qt's end.
     bool detach();
 
     bool isSimulated() const { return m_simulated; }

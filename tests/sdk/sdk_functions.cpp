@@ -97,22 +97,7 @@ private Q_SLOTS:
     void badArguments()
     {
         Outs o;
-        auto *const units = reinterpret_cast<uint16_t *>(o.units);
-        // clang-format off
-        const std::vector<VELT_ERROR> results = {
-            VELT_DevSrv_GetDevStatus(nullptr), VELT_DevSrv_GetImeiInfo(nullptr),
-            VELT_DevSrv_GetESN(nullptr), VELT_DevSrv_GetPinStatus(1, o.n, o.c, o.c, o.c),
-            VELT_DevSrv_GetPinStatus(0, o.n, o.c, o.c, nullptr), VELT_DevSrv_ReadUserNumItem(25, &o.own),
-            VELT_NetSrv_GetCurPlmn(nullptr, &o.plmn), VELT_NetSrv_GetCurPlmn(o.n, nullptr),
-            VELT_NetSrv_SetCSRegReport(-1), VELT_NetSrv_SetCSRegReport(3),
-            VELT_NetSrv_GetEFFile(2, o.text), VELT_NetSrv_GetIPAddress(nullptr, "", o.text, 1),
-            VELT_NetSrv_GetIPAddress("", nullptr, o.text, 1), VELT_NetSrv_GetDNS("", "", nullptr, 1),
-            VELT_NetSrv_GetDNS("", "", o.text, 0), VELT_NetSrv_GetDNS("", "", o.text, -1),
-            VELT_PBSrv_GetSize(0, o.n), VELT_PBSrv_GetCapacity(2, o.n),
-            VELT_SMSSrv_GetSMSCentreNumber(nullptr, units, 1), VELT_SMSSrv_GetSMSCentreNumber(o.n, nullptr, 0),
-            VELT_SMSSrv_SMSRecordSetGetRecordCount(o.n, 3), VELT_SMSSrv_GetRecordInfo(o.n, o.n, 0),
-        };
-        // clang-format on
+        const std::vector<VELT_ERROR> results = SdkCalls::withBadArguments(o);
         QCOMPARE(results, std::vector<VELT_ERROR>(results.size(), VELT_ERROR_BAD_ARGUMENT));
         QCOMPARE(VELT_NetSrv_GetIPAddress("", "Other", o.text, 1), VELT_ERROR_FAILURE);
         QCOMPARE(show(o), QString());

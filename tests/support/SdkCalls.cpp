@@ -98,6 +98,25 @@ const std::vector<TestedCall> &SdkCalls::all()
     return calls;
 }
 
+std::vector<VELT_ERROR> SdkCalls::withBadArguments(Outs &o)
+{
+    // clang-format off
+    return {
+        VELT_DevSrv_GetDevStatus(nullptr), VELT_DevSrv_GetImeiInfo(nullptr),
+        VELT_DevSrv_GetESN(nullptr), VELT_DevSrv_GetPinStatus(1, o.n, o.c, o.c, o.c),
+        VELT_DevSrv_GetPinStatus(0, o.n, o.c, o.c, nullptr), VELT_DevSrv_ReadUserNumItem(25, &o.own),
+        VELT_NetSrv_GetCurPlmn(nullptr, &o.plmn), VELT_NetSrv_GetCurPlmn(o.n, nullptr),
+        VELT_NetSrv_SetCSRegReport(-1), VELT_NetSrv_SetCSRegReport(3),
+        VELT_NetSrv_GetEFFile(2, o.text), VELT_NetSrv_GetIPAddress(nullptr, "", o.text, 1),
+        VELT_NetSrv_GetIPAddress("", nullptr, o.text, 1), VELT_NetSrv_GetDNS("", "", nullptr, 1),
+        VELT_NetSrv_GetDNS("", "", o.text, 0), VELT_NetSrv_GetDNS("", "", o.text, -1),
+        VELT_PBSrv_GetSize(0, o.n), VELT_PBSrv_GetCapacity(2, o.n),
+        VELT_SMSSrv_GetSMSCentreNumber(nullptr, UNITS, 1), VELT_SMSSrv_GetSMSCentreNumber(o.n, nullptr, 0),
+        VELT_SMSSrv_SMSRecordSetGetRecordCount(o.n, 3), VELT_SMSSrv_GetRecordInfo(o.n, o.n, 0),
+    };
+    // clang-format on
+}
+
 QString SdkCalls::show(const Outs &o)
 {
     QStringList all{text(o.n[0]),

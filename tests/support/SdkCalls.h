@@ -51,6 +51,9 @@ struct TestedCall
 
 const std::vector<TestedCall> &all();
 
+/// The results of calls that each have one bad argument.
+std::vector<VELT_ERROR> withBadArguments(Outs &outs);
+
 /// What a call wrote, separated by '|'. A '$' shows the zero at the end of a text.
 QString show(const Outs &outs);
 

@@ -36,7 +36,7 @@ public:
         QString language;
         QString modem;
         Verdict verdict;
-        bool lacksSignal; ///< whether the service has not read the signal in time
+        bool lacksSignal = false; ///< whether the service has not read the signal in time
         QList<ShownPage> pages;
         std::vector<ModemService::Detail> details;
         QList<Failure> failures;

@@ -105,7 +105,6 @@ public:
         StandIns::reset();
         qputenv("HOME", m_home.path().toUtf8());
         setCodec("UTF-8");
-        qApp->setLayoutDirection(Qt::LeftToRight);
     }
 
     /// Returns what follows from a command.

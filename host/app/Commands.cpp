@@ -156,7 +156,7 @@ int Commands::showUnseen(const ModemSource &modem, Options options)
     options.print = true;
     options.screenshot = picture.fileName();
     const int code = show(modem, options);
-    if (code == Success) {
+    if (code == Success || code == NoModem) {
         picture.setAutoRemove(false);
         std::printf("No display: the screenshot is %s\n", qUtf8Printable(picture.fileName()));
     }

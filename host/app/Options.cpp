@@ -41,7 +41,7 @@ const KnownOption KnownOptions[] = {
     {"language", "name", "Show texts in this language (default: the system's, else English)."},
     {"open", "", "Open the diagnostics window at once."},
     {"tab", "name", "Open it and show this tab, by its configured name (\"Network status\")."},
-    {"print", "", "Open it, print all its captions and values, and exit."},
+    {"print", "", "Print all captions and values of the diagnostics window, and exit."},
     {"screenshot", "file", "Open it, write its picture to a file, and exit."},
     {"report", "",
      "Write all captions and values, below a head (date, versions, modem), to the given file or to standard "

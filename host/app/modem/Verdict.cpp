@@ -44,18 +44,6 @@ enum Power
     PowerLow = 2
 };
 
-const int NoCard = 255;
-const int Attached = 1;
-
-enum Registration
-{
-    NotRegistered = 0,
-    Home = 1,
-    SearchingNetwork = 2,
-    Denied = 3,
-    Roaming = 5
-};
-
 // docs/report.md has the sources.
 const double WeakRssi = -102;
 const double WeakRscp = -110;
@@ -78,7 +66,7 @@ const struct
 
 bool isRegistration(int state)
 {
-    return state == Home || state == Roaming;
+    return state == VELT_REG_HOME || state == VELT_REG_ROAMING;
 }
 
 QString digit(char attempts)
@@ -132,7 +120,7 @@ const Row Rows[] = {
         WHEN((s.condition.state == Failed || (!s.answers && s.result != VELT_SUCCESS)) &&
              s.condition.failedReason != SimMissing), nullptr},
     {"no-sim",              TEXT("There is no SIM in the modem."),
-        WHEN(s.simStatus == NoCard || s.condition.failedReason == SimMissing), nullptr},
+        WHEN(s.simStatus == VELT_SIM_NONE || s.condition.failedReason == SimMissing), nullptr},
     {"pin-required",        TEXT("The SIM asks for its PIN (tries left: %1)."),
         WHEN(s.pinStatus == VELT_PIN_REQUIRED && !s.pinAttempts.isEmpty()), WITH(s.pinAttempts)},
     {"pin-required",        TEXT("The SIM asks for its PIN."),
@@ -156,21 +144,21 @@ const Row Rows[] = {
              s.deviceStatus == VELT_DEV_STATUS_FOUND ||
              s.deviceStatus == VELT_DEV_STATUS_INITIALISING), nullptr},
     {"registration-denied", TEXT("The network refuses the modem (cause: %1)."),
-        WHEN((s.psState == Denied || (s.csState == Denied && !s.isRegistered())) &&
+        WHEN((s.psState == VELT_REG_DENIED || (s.csState == VELT_REG_DENIED && !s.isRegistered())) &&
              !s.isConnected() && !s.rejection.isEmpty()), WITH(s.rejection)},
     {"registration-denied", TEXT("The network refuses the modem."),
-        WHEN((s.psState == Denied || (s.csState == Denied && !s.isRegistered())) &&
+        WHEN((s.psState == VELT_REG_DENIED || (s.csState == VELT_REG_DENIED && !s.isRegistered())) &&
              !s.isConnected()), nullptr},
     {"searching",           TEXT("The modem is searching for a network."),
-        WHEN(!s.isRegistered() && (s.csState == SearchingNetwork || s.psState == SearchingNetwork ||
+        WHEN(!s.isRegistered() && (s.csState == VELT_REG_SEARCHING || s.psState == VELT_REG_SEARCHING ||
                                    s.condition.state == Searching)), nullptr},
     {"not-registered",      TEXT("The modem is not registered with a network."),
-        WHEN(!s.isRegistered() && (s.csState == NotRegistered || s.psState == NotRegistered ||
+        WHEN(!s.isRegistered() && (s.csState == VELT_REG_NOT_REGISTERED || s.psState == VELT_REG_NOT_REGISTERED ||
                                    s.condition.state == Enabled)), nullptr},
     {"not-attached",        TEXT("The modem is registered, but not attached to the packet service."),
-        WHEN(s.isRegistered() && !s.isConnected() && s.attachment == 0), nullptr},
+        WHEN(s.isRegistered() && !s.isConnected() && s.attachment == VELT_PS_DETACHED), nullptr},
     {"not-connected",       TEXT("The modem is registered, but there is no connection."),
-        WHEN((s.isRegistered() || s.attachment == Attached) && !s.isConnected()), nullptr},
+        WHEN((s.isRegistered() || s.attachment == VELT_PS_ATTACHED) && !s.isConnected()), nullptr},
     {"weak-signal",         TEXT("The modem is connected, but its signal is weak (%1)."),
         WHEN(s.isConnected() && !s.weakSignal().isEmpty()), WITH(s.weakSignal())},
     {"connected",           TEXT("The modem is connected."),

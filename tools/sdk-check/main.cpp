@@ -120,7 +120,7 @@ void catchCrashes()
             _exit(0);
         }
     }
-    catchCrashes(); // the library may have had its own mind
+    catchCrashes(); // the library may have replaced the handlers
     std::this_thread::sleep_for(std::chrono::duration<double>(options.settle));
     job.work(sdk);
     report.finished = true;

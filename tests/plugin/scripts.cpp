@@ -11,13 +11,17 @@
 //
 // The host and the modem
 //   like SECTION                          plays another section of the file, unchecked
-//   configuration XML or @FILE | edit OLD -> NEW | write FILE TEXT | remove FILE    in the
-//   plug-in's folder language NAME | text KEY=TEXT | codec NAME | home FOLDER host STATE complete,
-//   without-container, without-plug-ins, strangers asked KEY: COMMAND                    when the
-//   host is next asked for KEY, or a "plug-in" modem NAME | set KEY=VALUE;... | unplug | plug |
-//   event CODE fail FUNCTION[=CODE][, filled][, call N]    the N-th call alone no-memory N for the
-//   N-th object from now Init | ShowWindow | Notify CODE | OnDestroy | ReleaseData | drop-rows |
-//   saveToFile FILE restart                               OnDestroy and the end of both singletons
+//   configuration XML or @FILE | edit OLD -> NEW     of the plug-in's configuration
+//   write FILE TEXT | remove FILE                    in the plug-in's folder
+//   language NAME | text KEY=TEXT | codec NAME | home FOLDER
+//   host STATE                            complete, without-container, without-plug-ins, strangers
+//   asked KEY: COMMAND                    when the host is next asked for KEY, or a "plug-in"
+//   modem NAME | set KEY=VALUE;... | unplug | plug | event CODE
+//   fail FUNCTION[=CODE][, filled][, call N]         the N-th call alone
+//   no-memory N                           for the N-th object from now
+//   Init | ShowWindow | Notify CODE | OnDestroy | ReleaseData
+//   drop-rows | saveToFile FILE
+//   restart                               OnDestroy and the end of both singletons
 //   delete-parent | delete-plug-in
 //   open                                  Init and ShowWindow, which succeed
 // The user
@@ -29,9 +33,11 @@
 //   property OBJECT NAME
 //   question | box                        of the open file dialog, or the last message box
 //   file NAME | log [PATTERN] | references
-//   get GETTER[, KEY=VALUE;...] | each GETTER, KEY: VALUE ... | value TAB, ROW | load FILE | xml
-//   CONTENT traced                                from now on "get" tells log and calls losses
-//   COMMAND                        Init or ShowWindow without memory for each of its objects
+//   get GETTER[, KEY=VALUE;...] | each GETTER, KEY: VALUE ...
+//   traced                                from now on "get" tells log and calls
+//   presets                               of the outputs of the last call for the PIN
+//   value TAB, ROW | load FILE | xml CONTENT
+//   losses COMMAND                        Init or ShowWindow without memory for its objects in turn
 
 #include "Player.h"
 

@@ -97,8 +97,10 @@ bool Diagnostics::read(Wait wait, Report::Content *content)
         content->pages = DiagnosticsReader().read();
         close();
         HostCore::setDialogsUnseen(false);
-        if (!opened)
+        if (!opened) {
+            SdkControl::stopRecording();
             return false;
+        }
     }
     content->failures = takeFailures();
     content->details = ModemService::details();

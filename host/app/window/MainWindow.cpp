@@ -79,7 +79,6 @@ MainWindow::MainWindow(const ModemSource &modem, Diagnostics &diagnostics)
     QLabel *const fallback = newLabel("Fallback");
     fallback->setText(modem.fallback() + QLatin1Char(' ') +
                       tr("A simulated modem takes its place."));
-    fallback->setVisible(false);
     QLabel *const name = newLabel("Name");
     name->setText(modem.name());
 

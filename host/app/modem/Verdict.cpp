@@ -15,34 +15,7 @@
 
 namespace {
 
-using Status = ModemService::Status;
-
-// ModemManager's numbers.
-enum State
-{
-    Failed = -1,
-    Initialising = 1,
-    Locked = 2,
-    Disabled = 3,
-    Disabling = 4,
-    Enabling = 5,
-    Enabled = 6,
-    Searching = 7,
-    Registered = 8,
-    Connected = 11
-};
-enum FailedReason
-{
-    SimMissing = 2,
-    SimError = 3,
-    UnknownCapabilities = 4,
-    NoProfiles = 5
-};
-enum Power
-{
-    PowerOff = 1,
-    PowerLow = 2
-};
+using namespace ModemService;
 
 // docs/report.md has the sources.
 const double WeakRssi = -102;
@@ -115,7 +88,7 @@ const Row Rows[] = {
     {"modem-failed",        TEXT("The modem failed: its capabilities are unknown."),
         WHEN(s.condition.state == Failed && s.condition.failedReason == UnknownCapabilities), nullptr},
     {"modem-failed",        TEXT("The modem failed: its eSIM has no profile."),
-        WHEN(s.condition.state == Failed && s.condition.failedReason == NoProfiles), nullptr},
+        WHEN(s.condition.state == Failed && s.condition.failedReason == SimWithoutProfiles), nullptr},
     {"modem-failed",        TEXT("The modem failed, and does not say why."),
         WHEN((s.condition.state == Failed || (!s.answers && s.result != VELT_SUCCESS)) &&
              s.condition.failedReason != SimMissing), nullptr},

@@ -5,12 +5,15 @@
 
 #include "Properties.h"
 #include "sdk/VeltDevice.h"
+#include "sdk/VeltNetwork.h"
 
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+
+using namespace ModemService;
 
 namespace {
 
@@ -22,13 +25,6 @@ enum Capability : unsigned
     CapabilityGsmUmts = 1u << 2,
     CapabilityTdScdma = 1u << 7,
     CapabilityAny = 0xFFFFFFFF // stands for not known
-};
-
-enum FailedReason
-{
-    SimMissing = 2,
-    SimError = 3,
-    SimWithoutProfiles = 5
 };
 
 enum Lock
@@ -44,7 +40,6 @@ enum SmsStorage
     StorageDevice = 2
 };
 
-const int packetAttached = 2;
 const unsigned simFacility = 1;
 
 template <typename Number, size_t Size>
@@ -55,13 +50,15 @@ int64_t lookUp(const Number (&table)[Size], int64_t code, int64_t unknown)
 
 /// By the service's registration state. Registrations "SMS only" and "CSFB not preferred" are
 /// registrations; states "emergency only" and "attached RLOS" are not.
-const int registrationStates[] = {0, 1, 2, 3, 4, 5, 1, 5, 0, 1, 5, 0};
-const int registrationUnknown = 4;
+const int registrationStates[] = {
+    VELT_REG_NOT_REGISTERED, VELT_REG_HOME,    VELT_REG_SEARCHING, VELT_REG_DENIED,
+    VELT_REG_UNKNOWN,        VELT_REG_ROAMING, VELT_REG_HOME,      VELT_REG_ROAMING,
+    VELT_REG_NOT_REGISTERED, VELT_REG_HOME,    VELT_REG_ROAMING,   VELT_REG_NOT_REGISTERED};
 
 const int pinStates[] = {VELT_PIN_UNKNOWN,   VELT_PIN_READY,        VELT_PIN_REQUIRED,
                          VELT_PIN2_REQUIRED, VELT_PIN_PUK_REQUIRED, VELT_PIN_PUK2_REQUIRED};
 
-const int packetStates[] = {255, 0, 1};
+const int packetStates[] = {VELT_PS_UNKNOWN, VELT_PS_DETACHED, VELT_PS_ATTACHED};
 
 const int noCode = -1;
 
@@ -145,7 +142,7 @@ private:
     bool isInitialising() const
     {
         const int64_t state = number(m_modem, "State");
-        return state >= 0 && state <= ModemInitialising;
+        return state >= 0 && state <= Initialising;
     }
 
     int64_t productType() const
@@ -203,14 +200,14 @@ private:
     {
         auto &numbers = m_readings.numbers;
         const QString path = text(m_modem, "Sim");
-        const bool failed = number(m_modem, "State") == ModemFailed;
+        const bool failed = number(m_modem, "State") == Failed;
         if (path.size() > 1) {
             const bool faulty = failed && number(m_modem, "StateFailedReason") == SimError;
-            numbers[NumberValue::SimStatus] = faulty ? 0 : 1;
+            numbers[NumberValue::SimStatus] = faulty ? VELT_SIM_INVALID : VELT_SIM_VALID;
         } else if (failed && number(m_modem, "StateFailedReason") == SimError) {
-            numbers[NumberValue::SimStatus] = 0;
+            numbers[NumberValue::SimStatus] = VELT_SIM_INVALID;
         } else if (!isInitialising() && isUsable(m_modem)) {
-            numbers[NumberValue::SimStatus] = 255;
+            numbers[NumberValue::SimStatus] = VELT_SIM_NONE;
             m_readings.simMissing = true;
         }
         set(TextValue::Imsi, text(m_objects.sim, "Imsi"));
@@ -278,22 +275,25 @@ private:
         m_readings.texts[TextValue::OperatorShortName] = std::string();
         set(TextValue::OperatorCode, text(m_3gpp, "OperatorCode"));
 
-        const int64_t state = lookUp(registrationStates, number(m_3gpp, "RegistrationState", -1),
-                                     registrationUnknown);
-        numbers[NumberValue::CsReportMode] = 2;
+        const int64_t state =
+            lookUp(registrationStates, number(m_3gpp, "RegistrationState", -1), VELT_REG_UNKNOWN);
+        numbers[NumberValue::CsReportMode] = VELT_REG_REPORT_LOCATION;
         numbers[NumberValue::CsState] = state;
         int64_t packet = 0;
         if (!readNumber(property(m_3gpp, "PacketServiceState"), packet))
             return;
         // The service has one registration for both domains. It holds for the packet domain while
         // the modem is attached.
-        const int64_t attachment = lookUp(packetStates, packet, 255);
-        const bool registered = state == 1 || state == 5;
+        const int64_t attachment = lookUp(packetStates, packet, VELT_PS_UNKNOWN);
+        const bool registered = state == VELT_REG_HOME || state == VELT_REG_ROAMING;
         numbers[NumberValue::PsAttachment] = attachment;
-        numbers[NumberValue::PsReportMode] = 2;
-        numbers[NumberValue::PsState] = registered == (packet == packetAttached) ? state
-                                        : attachment == 0                        ? 0
-                                                          : registrationUnknown;
+        numbers[NumberValue::PsReportMode] = VELT_REG_REPORT_LOCATION;
+        int64_t &packetState = numbers[NumberValue::PsState];
+        if (registered == (attachment == VELT_PS_ATTACHED))
+            packetState = state;
+        else
+            packetState =
+                attachment == VELT_PS_DETACHED ? VELT_REG_NOT_REGISTERED : VELT_REG_UNKNOWN;
     }
 
     void convertLocation()
@@ -424,7 +424,7 @@ bool ServiceObjects::operator==(const ServiceObjects &other) const
 
 bool isUsable(const QVariantMap &modem)
 {
-    if (number(modem, "State") != ModemFailed)
+    if (number(modem, "State") != Failed)
         return true;
     const int64_t reason = number(modem, "StateFailedReason");
     return reason == SimMissing || reason == SimError || reason == SimWithoutProfiles;

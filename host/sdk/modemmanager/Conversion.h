@@ -48,14 +48,6 @@ struct Readings
     bool awaitsSignal = false; ///< libsdk asked for it, and the service has not read it yet
 };
 
-/// How far the service is with a modem (its Modem.State).
-enum ServiceModemState
-{
-    ModemFailed = -1,
-    ModemInitialising = 1,
-    ModemEnabled = 6
-};
-
 /// Whether anything can be read from the modem with these properties of the interface "Modem".
 bool isUsable(const QVariantMap &modem);
 

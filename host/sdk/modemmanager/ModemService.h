@@ -51,8 +51,38 @@ enum class Status
 
 SDK_EXPORT Status status();
 
-/// The service's numbers for the state of the modem: its MMModemState, MMModemStateFailedReason and
-/// MMModemPowerState.
+/// Of the service's MMModemState.
+enum State
+{
+    Failed = -1,
+    Initialising = 1,
+    Locked = 2,
+    Disabled = 3,
+    Disabling = 4,
+    Enabling = 5,
+    Enabled = 6,
+    Searching = 7,
+    Registered = 8,
+    Connected = 11
+};
+
+/// Of its MMModemStateFailedReason.
+enum FailedReason
+{
+    SimMissing = 2,
+    SimError = 3,
+    UnknownCapabilities = 4,
+    SimWithoutProfiles = 5
+};
+
+/// Of its MMModemPowerState.
+enum PowerState
+{
+    PowerOff = 1,
+    PowerLow = 2
+};
+
+/// The state of the modem, in the service's numbers: also those that have no name above.
 struct Condition
 {
     int state;

@@ -328,7 +328,7 @@ void ServiceWatcher::choose(const ReadingPointer &reading, const QVariantMap &ob
         if (i.key().startsWith(QLatin1String(servicePrefix)))
             reading->objects.interfaces[i.key().mid(sizeof servicePrefix - 1)] = i->toMap();
     }
-    if (m_identity.isEmpty() && reading->modem("State").toInt() > ModemInitialising)
+    if (m_identity.isEmpty() && reading->modem("State").toInt() > ModemService::Initialising)
         m_identity = identity(modemAt(reading->path));
     askDetails(reading);
 }
@@ -388,7 +388,7 @@ void ServiceWatcher::setUpSignal(const Reading &reading)
 {
     if (reading.signalRate() != 0)
         return;
-    if (reading.modem("State").toInt() < ModemEnabled) {
+    if (reading.modem("State").toInt() < ModemService::Enabled) {
         m_signalPath.clear();
     } else if (reading.path != m_signalPath &&
                !reading.objects.interfaces.value(signalInterface).isEmpty()) {

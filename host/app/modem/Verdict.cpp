@@ -47,13 +47,13 @@ QString digit(char attempts)
     return attempts >= '0' && attempts <= '9' ? QString(QLatin1Char(attempts)) : QString();
 }
 
-/// One verdict. The first row that holds counts.
+/// One verdict. The first row that holds, and has its argument if it takes one, counts.
 struct Row
 {
     const char *code;
     const char *text;
     bool (*holds)(const ModemState &);
-    QString (*argument)(const ModemState &); ///< takes the place of "%1"; null without one
+    QString (*argument)(const ModemState &); ///< takes the place of "%1"; null if there is none
 };
 
 #define TEXT(text) QT_TRANSLATE_NOOP("Verdict", text)
@@ -95,11 +95,11 @@ const Row Rows[] = {
     {"no-sim",              TEXT("There is no SIM in the modem."),
         WHEN(s.simStatus == VELT_SIM_NONE || s.condition.failedReason == SimMissing), nullptr},
     {"pin-required",        TEXT("The SIM asks for its PIN (tries left: %1)."),
-        WHEN(s.pinStatus == VELT_PIN_REQUIRED && !s.pinAttempts.isEmpty()), WITH(s.pinAttempts)},
+        WHEN(s.pinStatus == VELT_PIN_REQUIRED), WITH(s.pinAttempts)},
     {"pin-required",        TEXT("The SIM asks for its PIN."),
         WHEN(s.pinStatus == VELT_PIN_REQUIRED), nullptr},
     {"puk-required",        TEXT("The SIM asks for its PUK (tries left: %1)."),
-        WHEN(s.pinStatus == VELT_PIN_PUK_REQUIRED && !s.pukAttempts.isEmpty()), WITH(s.pukAttempts)},
+        WHEN(s.pinStatus == VELT_PIN_PUK_REQUIRED), WITH(s.pukAttempts)},
     {"puk-required",        TEXT("The SIM asks for its PUK."),
         WHEN(s.pinStatus == VELT_PIN_PUK_REQUIRED), nullptr},
     {"pin-blocked",         TEXT("The SIM is blocked: no tries are left for its PUK."),
@@ -117,11 +117,9 @@ const Row Rows[] = {
              s.deviceStatus == VELT_DEV_STATUS_FOUND ||
              s.deviceStatus == VELT_DEV_STATUS_INITIALISING), nullptr},
     {"registration-denied", TEXT("The network refuses the modem (cause: %1)."),
-        WHEN((s.psState == VELT_REG_DENIED || (s.csState == VELT_REG_DENIED && !s.isRegistered())) &&
-             !s.isConnected() && !s.rejection.isEmpty()), WITH(s.rejection)},
+        WHEN(s.isDenied()), WITH(s.rejection)},
     {"registration-denied", TEXT("The network refuses the modem."),
-        WHEN((s.psState == VELT_REG_DENIED || (s.csState == VELT_REG_DENIED && !s.isRegistered())) &&
-             !s.isConnected()), nullptr},
+        WHEN(s.isDenied()), nullptr},
     {"searching",           TEXT("The modem is searching for a network."),
         WHEN(!s.isRegistered() && (s.csState == VELT_REG_SEARCHING || s.psState == VELT_REG_SEARCHING ||
                                    s.condition.state == Searching)), nullptr},
@@ -133,7 +131,7 @@ const Row Rows[] = {
     {"not-connected",       TEXT("The modem is registered, but there is no connection."),
         WHEN((s.isRegistered() || s.attachment == VELT_PS_ATTACHED) && !s.isConnected()), nullptr},
     {"weak-signal",         TEXT("The modem is connected, but its signal is weak (%1)."),
-        WHEN(s.isConnected() && !s.weakSignal().isEmpty()), WITH(s.weakSignal())},
+        WHEN(s.isConnected()), WITH(s.weakSignal())},
     {"connected",           TEXT("The modem is connected."),
         WHEN(s.isConnected()), nullptr},
     {"unknown",             TEXT("The modem does not tell enough for a verdict."),
@@ -220,6 +218,12 @@ bool ModemState::isRegistered() const
            isConnected();
 }
 
+bool ModemState::isDenied() const
+{
+    const bool csDenied = csState == VELT_REG_DENIED && !isRegistered();
+    return (psState == VELT_REG_DENIED || csDenied) && !isConnected();
+}
+
 QString ModemState::weakSignal() const
 {
     for (const RadioLevel &level : levels) {
@@ -231,8 +235,9 @@ QString ModemState::weakSignal() const
 
 Verdict::Verdict(const ModemState &state)
 {
-    const Row &row = *std::find_if(std::begin(Rows), std::end(Rows),
-                                   [&state](const Row &each) { return each.holds(state); });
+    const Row &row = *std::find_if(std::begin(Rows), std::end(Rows), [&state](const Row &each) {
+        return each.holds(state) && (!each.argument || !each.argument(state).isEmpty());
+    });
     code = QLatin1String(row.code);
     text = QCoreApplication::translate("Verdict", row.text);
     if (row.argument)

@@ -51,6 +51,7 @@ struct ModemState
 
     bool isConnected() const;
     bool isRegistered() const;
+    bool isDenied() const;
     /// The first level that is weak, as text; empty if none is.
     QString weakSignal() const;
 };

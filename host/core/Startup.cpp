@@ -27,7 +27,8 @@ void HostCore::PluginRegister::add(const QString &classIdentifier, int pluginTyp
 
 QObject *HostCore::PluginRegister::GetPlugin(const QString &classIdentifier, int pluginType)
 {
-    for (const Entry &entry : qAsConst(m_entries)) {
+    const QList<Entry> &entries = m_entries;
+    for (const Entry &entry : entries) {
         if (entry.plugin && entry.pluginType == pluginType &&
             entry.classIdentifier == classIdentifier)
             return entry.plugin;

@@ -12,7 +12,6 @@
 #include "SdkControl.h"
 #include "sdk/VeltDevice.h"
 
-#include <QPluginLoader>
 #include <QtTest>
 #include <QtWidgets>
 
@@ -20,6 +19,7 @@
 #include <atomic>
 #include <dlfcn.h>
 #include <malloc.h>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <unistd.h>
@@ -77,14 +77,18 @@ public:
 
 void loadAndUnload(bool explicitly)
 {
-    QPluginLoader loader{MODULE_FILE};
-    loader.setLoadHints(QLibrary::LoadHints()); // without them Qt 5 keeps the module
-    auto *plugin = qobject_cast<IUIPlugin *>(loader.instance());
+    // Qt's own loader would keep the module, with some versions whatever the hints.
+    void *const module = dlopen(MODULE_FILE, RTLD_LAZY);
+    QVERIFY2(module, dlerror());
+    const auto instance = reinterpret_cast<QObject *(*)()>(dlsym(module, "qt_plugin_instance"));
+    std::unique_ptr<QObject> object(instance());
+    auto *plugin = qobject_cast<IUIPlugin *>(object.get());
     QVERIFY(plugin);
     Soak::start(plugin);
     if (explicitly)
         plugin->OnDestroy();
-    QVERIFY(loader.unload()); // deletes the object
+    object.reset();
+    QCOMPARE(dlclose(module), 0);
     QVERIFY(!dlopen(MODULE_FILE, RTLD_LAZY | RTLD_NOLOAD));
 }
 
@@ -95,6 +99,8 @@ class SoakTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    /// Qt keeps pixmaps for a time that depends on their use.
+    void initTestCase() { QPixmapCache::setCacheLimit(0); }
     void windows_data();
     void windows();
     void modules();
@@ -113,9 +119,7 @@ void SoakTest::windows()
     Soak soak;
     attachModem("cdma-pesn");
     Soak::start(soak.m_plugin);
-    // What Qt keeps depends on time: how long pixmaps were not used, how many events the queue once
-    // had to hold.
-    QPixmapCache::setCacheLimit(0);
+    // The queue keeps the room for as many events as it once had to hold.
     for (int event = 0; event < 10000; ++event)
         QCoreApplication::postEvent(this, new QEvent(QEvent::User));
     settle();

@@ -5,15 +5,72 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QPainter>
 #include <QProxyStyle>
+#include <QToolTip>
 
 namespace {
+
+/// Marks the labels that wrap their text but cannot show all of it: one word is wider than the
+/// label, or there are more lines than room. The mark lies upon the end of the text, and a tool tip
+/// tells the whole text.
+class ClippedTexts : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        auto *const label = static_cast<QLabel *>(watched);
+        if (event->type() == QEvent::Paint && isClipped(label)) {
+            watched->event(event);
+            mark(label);
+            return true;
+        }
+        if (event->type() == QEvent::ToolTip && isClipped(label)) {
+            QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
+                               QLatin1String("<p>") + label->text().toHtmlEscaped(), label);
+            return true;
+        }
+        return false;
+    }
+
+private:
+    static bool isClipped(const QLabel *label)
+    {
+        return label->wordWrap() &&
+               label->fontMetrics().horizontalAdvance(label->text()) > label->width() &&
+               (label->minimumSizeHint().width() > label->width() ||
+                label->heightForWidth(label->width()) > label->height());
+    }
+
+    static void mark(QLabel *label)
+    {
+        const QString text(QChar(0x2026)); // an ellipsis
+        QRect box = label->rect();
+        box.setLeft(box.right() - label->fontMetrics().horizontalAdvance(text) - 3);
+        QPainter painter(label);
+        painter.fillRect(box, label->palette().highlight());
+        painter.setPen(label->palette().highlightedText().color());
+        painter.drawText(box, Qt::AlignCenter, text);
+    }
+};
 
 /// Fusion, with the margins and spacings that the plug-in's windows of a fixed size need.
 class HostStyle : public QProxyStyle
 {
 public:
-    HostStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+    HostStyle() : QProxyStyle(QStringLiteral("Fusion")), m_clippedTexts(new ClippedTexts(this)) {}
+
+    using QProxyStyle::polish;
+    void polish(QWidget *widget) override
+    {
+        QProxyStyle::polish(widget);
+        if (qobject_cast<QLabel *>(widget))
+            widget->installEventFilter(m_clippedTexts);
+    }
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override
@@ -25,12 +82,16 @@ public:
         case PM_LayoutBottomMargin:
             return 5;
         case PM_LayoutHorizontalSpacing:
-        case PM_LayoutVerticalSpacing:
             return 6;
+        case PM_LayoutVerticalSpacing:
+            return 3;
         default:
             return QProxyStyle::pixelMetric(metric, option, widget);
         }
     }
+
+private:
+    QObject *const m_clippedTexts;
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 // SPDX-License-Identifier: MIT
 
+#include "HostCore.h"
 #include "SdkControl.h"
 #include "TestSupport.h"
 #include "modem/HostPlugins.h"
@@ -11,12 +12,14 @@
 
 #include <QClipboard>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolTip>
 #include <QtTest>
 
 using namespace TestSupport;
@@ -238,6 +241,45 @@ private Q_SLOTS:
         QCOMPARE(clipped(&window).join(" "), QString());
         window.close();
         QVERIFY(!DiagnosticsReader().window());
+    }
+
+    /// What wraps has room on the longest page. A word that is too long for the page is marked, and
+    /// its tool tip shows it whole.
+    void longValues()
+    {
+        const LogCapture log;
+        HostCore::applyLook(*qApp);
+        RealPlugin plugin;
+        const QString apn(64, 'm');
+        const QString address = "2001:0db8:85a3:08d3:1319:8a2e:0370:7344";
+        setValues("network/operatorName=The Long Name of a Network for Testing;connection/apn=" +
+                  apn + ";connection/ipAddress=" + address + ";connection/nameServers=" + address +
+                  ", " + address);
+        for (const QString &language :
+             HostCore::languages(plugin.built.filePath(HOST_DATA_DIR "/translations"))) {
+            setLanguage(qPrintable(language));
+            Diagnostics diagnostics(m_modem, plugin.loader, QString(), language);
+            QVERIFY(diagnostics.open());
+            const DiagnosticsReader reader;
+            QVERIFY(reader.selectTab("Network status"));
+            settle();
+            QCOMPARE(clipped(reader.window()).join(' '), QString());
+            QVERIFY(reader.selectTab("Network settings"));
+            auto *const value =
+                reader.window()->findChild<QLabel *>("DiagnosticsUIPlugin_labelAPNValue");
+            QCOMPARE(value->text(), apn);
+            const auto markedAt = [value](int x) {
+                return value->grab().toImage().pixelColor(x, 1) ==
+                       value->palette().color(QPalette::Highlight);
+            };
+            QVERIFY(markedAt(value->width() - 2) && !markedAt(2));
+            QHelpEvent help(QEvent::ToolTip, QPoint(), QPoint());
+            QCoreApplication::sendEvent(value, &help);
+            QVERIFY(QToolTip::text().contains(apn));
+            value->setText("short");
+            QVERIFY(!markedAt(value->width() - 2));
+            diagnostics.close();
+        }
     }
 };
 

@@ -31,7 +31,7 @@ build_packages=(
     fonts-wqy-microhei # for Chinese
     g++
     libxml2-dev
-    libqt5svg5 # for the window's icon
+    librsvg2-bin # for the window's icon
     ninja-build
     qtbase5-dev
     qttranslations5-l10n # for Qt's own dialogs

@@ -12,6 +12,8 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QImageReader>
+#include <QPixmap>
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,7 +26,10 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("diagnosis-host"));
     QApplication::setApplicationVersion(QStringLiteral(HOST_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("diagnosis-host"));
-    QApplication::setWindowIcon(QIcon(HostFiles::path(HostFiles::Icon)));
+    // Detecting the format would load Qt's reader of each format.
+    QImageReader icon(HostFiles::path(HostFiles::Icon), "png");
+    icon.setAutoDetectImageFormat(false);
+    QApplication::setWindowIcon(QIcon(QPixmap::fromImageReader(&icon)));
 
     Options options;
     QString error;

@@ -60,10 +60,11 @@ bool HostCore::setLanguage(const QString &folder, const QString &language)
 
 QStringList HostCore::languages(const QString &folder)
 {
-    QStringList names =
-        QDir(folder).entryList({QStringLiteral("host_*.qm")}, QDir::Files, QDir::Name);
-    for (QString &name : names)
-        name = name.mid(5, name.size() - 8);
+    QStringList names;
+    for (const QString &file : QDir(folder).entryList(QDir::Files, QDir::Name)) {
+        if (file.startsWith(QLatin1String("host_")) && file.endsWith(QLatin1String(".qm")))
+            names.append(file.mid(5, file.size() - 8));
+    }
     return names;
 }
 

@@ -42,9 +42,11 @@ bool ModemSource::detach()
 
 QStringList ModemSource::names() const
 {
-    QStringList names =
-        QDir(m_folder).entryList({QStringLiteral("*.ini")}, QDir::Files, QDir::Name);
-    names.replaceInStrings(QStringLiteral(".ini"), QString());
+    QStringList names;
+    for (const QFileInfo &file : QDir(m_folder).entryInfoList(QDir::Files, QDir::Name)) {
+        if (file.suffix() == QLatin1String("ini"))
+            names.append(file.completeBaseName());
+    }
     return names + QStringList({serviceName, automatic});
 }
 

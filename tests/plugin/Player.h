@@ -532,14 +532,8 @@ private:
         giveBack();
         return singleton;
     }
-    static Logic *logic()
-    {
-        return get<Logic>(Logic::Destroy);
-    }
-    static Store *store()
-    {
-        return get<Store>(Store::DestroyInstance);
-    }
+    static Logic *logic() { return get<Logic>(Logic::Destroy); }
+    static Store *store() { return get<Store>(Store::DestroyInstance); }
 
     const QMap<QString, QStringList> &m_sections;
     Container m_container;

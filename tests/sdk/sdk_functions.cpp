@@ -122,10 +122,7 @@ private Q_SLOTS:
         QCOMPARE(TestSupport::modem().value("network/csReportMode"), std::string("1"));
     }
 
-    void value_data()
-    {
-        addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "values");
-    }
+    void value_data() { addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "values"); }
     void value()
     {
         QFETCH(QStringList, fields);
@@ -133,10 +130,7 @@ private Q_SLOTS:
         QCOMPARE(answers()[fields.at(3)], fields.at(4));
     }
 
-    void textLength_data()
-    {
-        addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "text lengths");
-    }
+    void textLength_data() { addRows(TEST_SOURCE_DIR "/sdk_functions.txt", "text lengths"); }
     void textLength()
     {
         QFETCH(QStringList, fields);

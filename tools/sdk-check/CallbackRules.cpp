@@ -50,8 +50,9 @@ struct Kind
 };
 
 #define FUNCTION(name)                                                                             \
+    Function                                                                                       \
     {                                                                                              \
-#name, &Sdk::name                                                                          \
+        #name, &Sdk::name                                                                          \
     }
 const Kind kinds[] = {
     {FUNCTION(VELT_DevSrv_RegisterDevMgrCallback), FUNCTION(VELT_DevSrv_UnRegisterDevMgrCallback)},

@@ -44,63 +44,27 @@ public:
 #endif
         return *initResult ? qApp->property(initResult).toInt() : 1;
     }
-    int ShowWindow(QWidget *, QRect &) override
-    {
-        return qApp->property("opens").toInt();
-    }
+    int ShowWindow(QWidget *, QRect &) override { return qApp->property("opens").toInt(); }
     int Notify(unsigned int code, unsigned int argument1, unsigned int argument2) override
     {
         count(code == 4100 && argument1 == 0 && argument2 == 0 ? "notified" : "misinformed");
         return 0;
     }
-    void OnDestroy() override
-    {
-        count("destroyed");
-    }
+    void OnDestroy() override { count("destroyed"); }
 
     void Release() override {}
-    int GetLastError() override
-    {
-        return 0;
-    }
-    int GetPluginType() override
-    {
-        return 0;
-    }
-    QString GetCLSID() override
-    {
-        return QString();
-    }
-    int GetVersion() override
-    {
-        return 0;
-    }
-    QString GetPluginName() override
-    {
-        return QString();
-    }
-    bool IsAllowRelease() override
-    {
-        return false;
-    }
-    int QueryInterface(int, QObject **) override
-    {
-        return 0;
-    }
-    int DoModal() override
-    {
-        return 0;
-    }
+    int GetLastError() override { return 0; }
+    int GetPluginType() override { return 0; }
+    QString GetCLSID() override { return QString(); }
+    int GetVersion() override { return 0; }
+    QString GetPluginName() override { return QString(); }
+    bool IsAllowRelease() override { return false; }
+    int QueryInterface(int, QObject **) override { return 0; }
+    int DoModal() override { return 0; }
     void Hide() override {}
     void FitSize(QRect &) override {}
-    bool IsReady() override
-    {
-        return false;
-    }
-    bool ChangeLang(const QString &) override
-    {
-        return false;
-    }
+    bool IsReady() override { return false; }
+    bool ChangeLang(const QString &) override { return false; }
 
 private:
     static void count(const char *what)

@@ -3,6 +3,7 @@
 
 #include "Commands.h"
 
+#include "EndingSignals.h"
 #include "ExitCode.h"
 #include "HostCore.h"
 #include "HostFiles.h"
@@ -136,6 +137,7 @@ int Commands::show(const ModemSource &modem, const Options &options)
     Diagnostics diagnostics(modem, plugin, configuration, options.language);
     if (options.endsByItself())
         return write(diagnostics, modem, options);
+    const EndingSignals endingSignals;
     MainWindow window(modem, diagnostics);
     window.show();
     if (options.open) {

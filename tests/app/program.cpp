@@ -7,6 +7,7 @@
 #include <QImage>
 #include <QtTest>
 
+#include <csignal>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -146,6 +147,30 @@ private Q_SLOTS:
              "--language", "en", "--print"},
             {"9", "IMEI: Unknown\n", "has not answered yet"});
         close(listener);
+    }
+
+    /// The program detaches the modem and ends, as if its window was closed.
+    void signal_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::newRow("the terminal is closed") << SIGHUP;
+        QTest::newRow("Ctrl+C") << SIGINT;
+        QTest::newRow("the session ends") << SIGTERM;
+    }
+    void signal()
+    {
+        QFETCH(int, number);
+        QProcess process;
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(HOST_PROGRAM, {"--modem", "wcdma", "--open", "--log", "-"});
+        QByteArray log;
+        while (!log.contains("Creation of dialog is successful") && process.waitForReadyRead())
+            log += process.readAll();
+        QCOMPARE(kill(pid_t(process.processId()), number), 0);
+        QVERIFY(process.waitForFinished(20000));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+        QVERIFY(process.readAll().contains("UnRegisterDevice: Exited"));
     }
 
     void pictureAndLog()

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
+// SPDX-License-Identifier: MIT
+
+#include "EndingSignals.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace {
+
+const int EndingNumbers[] = {SIGHUP, SIGINT, SIGTERM};
+
+/// A handler may not call Qt. It adds one to this, which the event loop waits for.
+int s_counter = -1;
+
+void note(int)
+{
+    const eventfd_t one = 1;
+    eventfd_write(s_counter, one);
+}
+
+} // namespace
+
+EndingSignals::EndingSignals()
+    : m_notifier(s_counter = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), QSocketNotifier::Read)
+{
+    QObject::connect(&m_notifier, &QSocketNotifier::activated, &QCoreApplication::quit);
+    for (const int signal : EndingNumbers)
+        std::signal(signal, note);
+}
+
+EndingSignals::~EndingSignals()
+{
+    for (const int signal : EndingNumbers)
+        std::signal(signal, SIG_DFL);
+    close(s_counter);
+}

@@ -16,18 +16,27 @@ configure_file(host/app/desktop/diagnosis-host.1.in
     ${CMAKE_BINARY_DIR}/${man_pages}/diagnosis-host.1 @ONLY)
 install_compressed(${man_pages} diagnosis-host.1)
 
+# The changelogs. An unreleased version gets today's date.
 set(CPACK_PACKAGE_CONTACT "The DiagnosisPlugin authors <authors@diagnosisplugin.invalid>")
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/diagnosis-host)
 configure_file(CHANGELOG.md ${CMAKE_BINARY_DIR}/${documents}/changelog COPYONLY)
 install_compressed(${documents} changelog)
-string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
-file(WRITE ${CMAKE_BINARY_DIR}/${documents}/changelog.Debian
-"diagnosis-host (${PROJECT_VERSION}-1) unstable; urgency=medium
+string(TIMESTAMP today "%Y-%m-%d" UTC)
+file(STRINGS CHANGELOG.md headings REGEX "^## ")
+foreach(heading IN LISTS headings)
+    string(REGEX MATCH "^## ([0-9.]+) \\((.*)\\)" heading "${heading}")
+    set(version ${CMAKE_MATCH_1})
+    string(REPLACE unreleased ${today} day "${CMAKE_MATCH_2}")
+    execute_process(COMMAND date -uR -d ${day} OUTPUT_VARIABLE date COMMAND_ERROR_IS_FATAL ANY)
+    string(APPEND debian_changelog
+"diagnosis-host (${version}-1) unstable; urgency=medium
 
   * What is new is in changelog.gz.
 
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")
+endforeach()
+file(WRITE ${CMAKE_BINARY_DIR}/${documents}/changelog.Debian "${debian_changelog}")
 install_compressed(${documents} changelog.Debian)
 install(FILES LICENSE DESTINATION ${documents} RENAME copyright)
 

@@ -16,7 +16,7 @@ configure_file(host/app/desktop/diagnosis-host.1.in
     ${CMAKE_BINARY_DIR}/${man_pages}/diagnosis-host.1 @ONLY)
 install_compressed(${man_pages} diagnosis-host.1)
 
-# The changelogs. An unreleased version gets today's date.
+# The changelogs, and the releases of the AppStream metadata. An unreleased version gets today's date.
 set(CPACK_PACKAGE_CONTACT "The DiagnosisPlugin authors <authors@diagnosisplugin.invalid>")
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/diagnosis-host)
 configure_file(CHANGELOG.md ${CMAKE_BINARY_DIR}/${documents}/changelog COPYONLY)
@@ -35,10 +35,27 @@ foreach(heading IN LISTS headings)
 
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")
+    string(APPEND releases "    <release version=\"${version}\" date=\"${day}\"/>\n")
 endforeach()
 file(WRITE ${CMAKE_BINARY_DIR}/${documents}/changelog.Debian "${debian_changelog}")
 install_compressed(${documents} changelog.Debian)
 install(FILES LICENSE DESTINATION ${documents} RENAME copyright)
+
+# The AppStream metadata, with the names of the desktop entry.
+file(STRINGS host/app/desktop/diagnosis-host.desktop lines ENCODING UTF-8 REGEX "^(Name|Comment)")
+foreach(line IN LISTS lines)
+    string(REGEX MATCH "^([A-Za-z]+)(\\[(.*)\\])?=(.*)" line "${line}")
+    set(text "${CMAKE_MATCH_4}")
+    string(REPLACE Name name tag ${CMAKE_MATCH_1})
+    string(REPLACE Comment summary tag ${tag})
+    string(REPLACE _ - language "${CMAKE_MATCH_3}")
+    string(REGEX REPLACE "(.+)" " xml:lang=\"\\1\"" language "${language}")
+    string(APPEND names "  <${tag}${language}>${text}</${tag}>\n")
+endforeach()
+set(metadata ${CMAKE_INSTALL_DATADIR}/metainfo)
+set(component com.velt.diagnosishost.metainfo.xml)
+configure_file(host/app/desktop/${component}.in ${CMAKE_BINARY_DIR}/${metadata}/${component} @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/${metadata}/${component} DESTINATION ${metadata})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME diagnosis-host)

@@ -1,7 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 # SPDX-License-Identifier: MIT
 
-# The Debian package ("package" target or cpack): all that is installed, below /usr.
+# The Debian package ("package" target or cpack): all that is installed, below /usr, but the
+# configuration in /etc.
 
 # install_compressed(folder name): compresses a file of the build tree without its time, so that packages
 # can be compared.
@@ -56,6 +57,16 @@ set(metadata ${CMAKE_INSTALL_DATADIR}/metainfo)
 set(component com.velt.diagnosishost.metainfo.xml)
 configure_file(host/app/desktop/${component}.in ${CMAKE_BINARY_DIR}/${metadata}/${component} @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/${metadata}/${component} DESTINATION ${metadata})
+
+# The configuration is the administrator's: in /etc, where dpkg keeps what was changed.
+set(CPACK_CONFIGURATION etc/diagnosis-host/DiagnosisConfig.xml)
+set(CPACK_CONFIGURATION_LINK usr/${DIAG_PLUGIN_DIR}/DiagnosisConfig.xml)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/package/configuration.cmake)
+set(control ${CMAKE_BINARY_DIR}/control)
+file(WRITE ${control}/conffiles "/${CPACK_CONFIGURATION}\n")
+configure_file(cmake/package/preinst.in ${control}/preinst @ONLY)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${control}/conffiles ${control}/preinst)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME diagnosis-host)

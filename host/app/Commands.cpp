@@ -123,11 +123,12 @@ int Commands::show(const ModemSource &modem, const Options &options)
 {
     const QString configuration = HostFiles::path(HostFiles::Configuration);
     QString libraries = HostFiles::path(HostFiles::Libraries);
-    if (ConfigFile::isRefused(configuration)) {
+    const bool isRefused = ConfigFile::isRefused(configuration);
+    if (isRefused || !QFileInfo::exists(configuration))
         std::fprintf(stderr, "diagnosis-host: %s: %s\n", qUtf8Printable(configuration),
                      qUtf8Printable(ConfigFile::description(configuration)));
+    if (isRefused)
         libraries += QStringLiteral("/none"); // where the plug-in finds no configuration
-    }
     HostCore::setPluginLibraryPath(libraries);
     const HostPlugins hostPlugins;
     PluginLoader plugin(HostFiles::path(HostFiles::Plugin));

@@ -73,6 +73,9 @@ private Q_SLOTS:
         QTest::newRow("missing") << "missing"
                                  << "missing\n"
                                  << 8 << "No such file";
+        QTest::newRow("link") << "link"
+                              << "missing: /nonexistent\n"
+                              << 8 << "No such file";
         QTest::newRow("pipe") << "pipe"
                               << "cannot be read: not a regular file\n"
                               << 8 << "not a regular file";
@@ -97,6 +100,8 @@ private Q_SLOTS:
         const QString file = folder.filePath(HOST_PLUGIN_DIR "/DiagnosisConfig.xml");
         if (kind == "pipe")
             QCOMPARE(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+        else if (kind == "link")
+            QVERIFY(QFile::link("/nonexistent", file));
         else if (kind == "folder")
             QVERIFY(QDir().mkdir(file));
         else if (kind == "large")
@@ -109,6 +114,7 @@ private Q_SLOTS:
         QVERIFY2((line + '\n').endsWith(head), qPrintable(line));
         const Outcome checked = run("\"$0\" --language en --check-config '" + file + "'", program);
         QTEST(checked.code, "code");
+        QCOMPARE(report.error.contains("DiagnosisConfig.xml: " + head), checked.code == 8);
         QVERIFY2((checked.output + checked.error).contains(check), qPrintable(checked.error));
     }
 

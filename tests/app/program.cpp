@@ -67,8 +67,8 @@ private Q_SLOTS:
             QVERIFY(QDir(root.path()).mkpath(folder));
         const QString program = root.filePath("bin/diagnosis-host");
         QVERIFY(QFile::copy(HOST_PROGRAM, program));
-        for (const QString &file :
-             QStringList{libraries + "libcore.so", libraries + "libsdk.so", HOST_DATA_DIR})
+        for (const QString &file : {libraries + "libcore.so", libraries + "libsdk.so",
+                                    plugins + "DiagnosisConfig.xml", QString(HOST_DATA_DIR)})
             QVERIFY(QFile::link(built.filePath(file), root.filePath(file)));
         // A broken link does not count as a file.
         QVERIFY(QFile::link(TEST_PLUGINS "/" + fields.at(1),

@@ -47,8 +47,10 @@ bool ConfigFile::isRefused(const QString &fileName)
 
 QString ConfigFile::description(const QString &fileName)
 {
-    if (!QFileInfo::exists(fileName))
-        return QStringLiteral("missing");
+    const QFileInfo file(fileName);
+    if (!file.exists())
+        return QStringLiteral("missing") +
+               (file.isSymLink() ? QLatin1String(": ") + file.symLinkTarget() : QString());
     QByteArray content;
     QString error;
     if (!read(fileName, LargestForPlugin, &content, &error))

@@ -42,6 +42,11 @@ file(WRITE ${CMAKE_BINARY_DIR}/${documents}/changelog.Debian "${debian_changelog
 install_compressed(${documents} changelog.Debian)
 install(FILES LICENSE DESTINATION ${documents} RENAME copyright)
 
+# The pages lie as in the sources, so that their links work, but for those to sources.
+install(FILES README.md DESTINATION ${documents})
+install(DIRECTORY config docs examples DESTINATION ${documents})
+install(FILES host/modems/README.md DESTINATION ${documents}/host/modems)
+
 # The AppStream metadata, with the names of the desktop entry.
 file(STRINGS host/app/desktop/diagnosis-host.desktop lines ENCODING UTF-8 REGEX "^(Name|Comment)")
 foreach(line IN LISTS lines)

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 # SPDX-License-Identifier: MIT
 
-# The Debian package ("package" target or cpack): all that is installed, below /usr, but the
-# configuration in /etc.
+# The Debian package ("package" target or cpack): all that is installed, below /usr, but for
+# the configuration.
 
 # install_compressed(folder name): compresses a file of the build tree without its time, so that packages
 # can be compared.
@@ -12,10 +12,22 @@ function(install_compressed folder name)
     install(FILES ${CMAKE_BINARY_DIR}/${folder}/${name}.gz DESTINATION ${folder})
 endfunction()
 
+# The configuration is the administrator's: in /etc, where dpkg keeps what was changed.
+set(CPACK_CONFIGURATION etc/diagnosis-host/DiagnosisConfig.xml)
+set(CPACK_CONFIGURATION_LINK usr/${DIAG_PLUGIN_DIR}/DiagnosisConfig.xml)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/package/configuration.cmake)
+set(control ${CMAKE_BINARY_DIR}/control)
+file(WRITE ${control}/conffiles "/${CPACK_CONFIGURATION}\n")
+configure_file(cmake/package/preinst.in ${control}/preinst @ONLY)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${control}/conffiles ${control}/preinst)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
 set(man_pages ${CMAKE_INSTALL_MANDIR}/man1)
-configure_file(host/app/desktop/diagnosis-host.1.in
-    ${CMAKE_BINARY_DIR}/${man_pages}/diagnosis-host.1 @ONLY)
-install_compressed(${man_pages} diagnosis-host.1)
+foreach(page host/app/desktop/diagnosis-host.1 tools/sdk-check/diagnosis-sdk-check.1)
+    cmake_path(GET page FILENAME name)
+    configure_file(${page}.in ${CMAKE_BINARY_DIR}/${man_pages}/${name} @ONLY)
+    install_compressed(${man_pages} ${name})
+endforeach()
 
 # The changelogs, and the releases of the AppStream metadata. An unreleased version gets today's date.
 set(CPACK_PACKAGE_CONTACT "The DiagnosisPlugin authors <authors@diagnosisplugin.invalid>")
@@ -62,16 +74,6 @@ set(metadata ${CMAKE_INSTALL_DATADIR}/metainfo)
 set(component com.velt.diagnosishost.metainfo.xml)
 configure_file(host/app/desktop/${component}.in ${CMAKE_BINARY_DIR}/${metadata}/${component} @ONLY)
 install(FILES ${CMAKE_BINARY_DIR}/${metadata}/${component} DESTINATION ${metadata})
-
-# The configuration is the administrator's: in /etc, where dpkg keeps what was changed.
-set(CPACK_CONFIGURATION etc/diagnosis-host/DiagnosisConfig.xml)
-set(CPACK_CONFIGURATION_LINK usr/${DIAG_PLUGIN_DIR}/DiagnosisConfig.xml)
-set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/package/configuration.cmake)
-set(control ${CMAKE_BINARY_DIR}/control)
-file(WRITE ${control}/conffiles "/${CPACK_CONFIGURATION}\n")
-configure_file(cmake/package/preinst.in ${control}/preinst @ONLY)
-set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${control}/conffiles ${control}/preinst)
-set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME diagnosis-host)

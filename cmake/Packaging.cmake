@@ -29,6 +29,9 @@ foreach(page host/app/desktop/diagnosis-host.1 tools/sdk-check/diagnosis-sdk-che
     install_compressed(${man_pages} ${name})
 endforeach()
 
+install(FILES host/app/desktop/diagnosis-host.bash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME diagnosis-host)
+
 # The changelogs, and the releases of the AppStream metadata. An unreleased version gets today's date.
 set(CPACK_PACKAGE_CONTACT "The DiagnosisPlugin authors <authors@diagnosisplugin.invalid>")
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/diagnosis-host)

@@ -92,8 +92,7 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The windows' fixed sizes are made for this font. Qt's packages recommend those with its translations
-# and with its reader of SVG icons.
+# The windows' fixed sizes are made for this font. Qt's packages recommend its translations.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-dejavu-core)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS fonts-wqy-microhei) # for Chinese
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS modemmanager)

@@ -381,6 +381,10 @@
         <translation>يحل محله مودم محاكى.</translation>
     </message>
     <message>
+        <source>%1 (simulated)</source>
+        <translation>%1 (محاكاة)</translation>
+    </message>
+    <message>
         <source>The diagnostics window could not be opened.</source>
         <translation>تعذر فتح نافذة التشخيص.</translation>
     </message>

@@ -381,6 +381,10 @@
         <translation>Ein simuliertes Modem tritt an seine Stelle.</translation>
     </message>
     <message>
+        <source>%1 (simulated)</source>
+        <translation>%1 (simuliert)</translation>
+    </message>
+    <message>
         <source>The diagnostics window could not be opened.</source>
         <translation>Das Diagnosefenster konnte nicht geöffnet werden.</translation>
     </message>

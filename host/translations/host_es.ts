@@ -381,6 +381,10 @@
         <translation>Un módem simulado ocupa su lugar.</translation>
     </message>
     <message>
+        <source>%1 (simulated)</source>
+        <translation>%1 (simulado)</translation>
+    </message>
+    <message>
         <source>The diagnostics window could not be opened.</source>
         <translation>No se ha podido abrir la ventana de diagnóstico.</translation>
     </message>

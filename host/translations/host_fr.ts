@@ -381,6 +381,10 @@
         <translation>Un modem simulé le remplace.</translation>
     </message>
     <message>
+        <source>%1 (simulated)</source>
+        <translation>%1 (simulé)</translation>
+    </message>
+    <message>
         <source>The diagnostics window could not be opened.</source>
         <translation>La fenêtre de diagnostic n'a pas pu être ouverte.</translation>
     </message>

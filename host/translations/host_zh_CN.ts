@@ -381,6 +381,10 @@
         <translation>现以模拟调制解调器代替。</translation>
     </message>
     <message>
+        <source>%1 (simulated)</source>
+        <translation>%1（模拟）</translation>
+    </message>
+    <message>
         <source>The diagnostics window could not be opened.</source>
         <translation>无法打开诊断窗口。</translation>
     </message>

@@ -96,7 +96,7 @@ bool ModemSource::attachSimulated(const QString &name, QString *error)
     }
     SdkControl::attach(modem, modem->results());
     m_simulated = true;
-    m_name = name + QStringLiteral(" (simulated)");
+    m_name = name;
     return true;
 }
 

@@ -108,5 +108,7 @@ bool Diagnostics::read(Wait wait, Report::Content *content)
     content->configuration = ConfigFile::description(m_configuration);
     content->language = m_language;
     content->modem = m_modem.name();
+    if (m_modem.isSimulated())
+        content->modem += QLatin1String(" (simulated)");
     return true;
 }

@@ -80,7 +80,7 @@ MainWindow::MainWindow(const ModemSource &modem, Diagnostics &diagnostics)
     fallback->setText(modem.fallback() + QLatin1Char(' ') +
                       tr("A simulated modem takes its place."));
     QLabel *const name = newLabel("Name");
-    name->setText(modem.name());
+    name->setText(modem.isSimulated() ? tr("%1 (simulated)").arg(modem.name()) : modem.name());
 
     auto *const form = new QFormLayout;
     form->setVerticalSpacing(6);

@@ -175,7 +175,7 @@ void SoakTest::modules()
     long singletons = 0;
     QVector<long> growth;
     long size = 0;
-    for (int round = 0; round < 25; ++round) {
+    for (int round = 0; round < 60; ++round) {
         growth.append(soak.heap() - size);
         size += growth.last();
         Soak::start(soak.m_plugin);

@@ -13,13 +13,14 @@ namespace {
 
 const int EndingNumbers[] = {SIGHUP, SIGINT, SIGTERM};
 
-/// A handler may not call Qt. It adds one to this, which the event loop waits for.
+/// A handler may not call Qt. It adds one to this counter, which the event loop waits for.
 int s_counter = -1;
 
-void note(int)
+extern "C" void note(int)
 {
     const eventfd_t one = 1;
-    eventfd_write(s_counter, one);
+    const ssize_t written = write(s_counter, &one, sizeof one);
+    (void)written;
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QWindow>
 
 namespace {
 
@@ -38,6 +39,48 @@ protected:
     }
 };
 
+/// The place of a window's frame.
+struct Place
+{
+    QRect screen;
+    QPoint centre;
+
+    QPoint topLeft(QRect frame) const
+    {
+        frame.moveCenter(centre);
+        // If the frame is larger than the screen, its upper left corner is visible.
+        frame.moveLeft(qMax(screen.left(), qMin(frame.left(), screen.right() + 1 - frame.width())));
+        frame.moveTop(qMax(screen.top(), qMin(frame.top(), screen.bottom() + 1 - frame.height())));
+        return frame.topLeft();
+    }
+};
+
+/// Places a window's frame when the window is first seen.
+class FirstSight : public QObject
+{
+public:
+    FirstSight(QWindow *window, const Place &place) : QObject(window), m_place(place)
+    {
+        window->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        auto *const window = static_cast<QWindow *>(object);
+        if (event->type() == QEvent::Expose && window->isExposed()) {
+            // Not QWidget::move(), which does nothing if the window is there already: the window
+            // manager may have an earlier move still before it.
+            window->setFramePosition(m_place.topLeft(window->frameGeometry()));
+            window->removeEventFilter(this);
+            deleteLater();
+        }
+        return false;
+    }
+
+private:
+    const Place m_place;
+};
+
 QString buttonText(const QString &text)
 {
     return text.startsWith(QLatin1String("IDS_")) ? HostCore::pluginText(text) : text;
@@ -53,6 +96,15 @@ void HostCore::setPluginLibraryPath(const QString &path)
 void HostCore::setSettingsFile(const QString &fileName)
 {
     s_settingsFile = fileName;
+}
+
+void HostCore::placeFrame(QWidget *window, const QRect &screen, const QPoint &centre)
+{
+    const Place place{screen, centre};
+    window->move(place.topLeft(window->frameGeometry()));
+    QWindow *const native = window->windowHandle();
+    if (native && !native->isExposed())
+        new FirstSight(native, place);
 }
 
 QString CommonUtils::GetPluginLibraryPath()
@@ -115,12 +167,8 @@ void CommonUtils::MoveCentre(QDialog *dialog)
     const QWidget *const parent =
         dialog->parentWidget() ? dialog->parentWidget()->window() : nullptr;
     const QRect screen = (parent ? parent : dialog)->screen()->availableGeometry();
-    QRect frame = dialog->frameGeometry();
-    frame.moveCenter(parent ? parent->frameGeometry().center() : screen.center());
-    // If the dialog is larger than the screen, its upper left corner is visible.
-    frame.moveLeft(qMax(screen.left(), qMin(frame.left(), screen.right() + 1 - frame.width())));
-    frame.moveTop(qMax(screen.top(), qMin(frame.top(), screen.bottom() + 1 - frame.height())));
-    dialog->move(frame.topLeft());
+    HostCore::placeFrame(dialog, screen,
+                         parent ? parent->frameGeometry().center() : screen.center());
 }
 
 void CommonUtils::GetApplicationStringHeightAndWidth(const QString &text, int &height, int &width)

@@ -14,6 +14,9 @@
 #include <QStringList>
 
 class QApplication;
+class QPoint;
+class QRect;
+class QWidget;
 
 /// The host's side of libcore: the host sets here what plug-ins read through include/core. All
 /// functions must be called on the GUI thread.
@@ -51,6 +54,12 @@ CORE_EXPORT void applyLook(QApplication &application);
 
 /// Sets whether dialogs that are made from now on stay off the screen, because they are only read.
 CORE_EXPORT void setDialogsUnseen(bool unseen);
+
+/// Moves the middle of a window's frame to \a centre, and the whole frame, title bar included, onto
+/// \a screen. If the frame is larger, its upper left corner is on the screen. A window that was
+/// shown but not seen yet is placed again when it is first seen: before that the window manager may
+/// not have told the size of the frame.
+CORE_EXPORT void placeFrame(QWidget *window, const QRect &screen, const QPoint &centre);
 
 /// The host's container. It forgets a plug-in that is deleted.
 class CORE_EXPORT PluginRegister : public PluginContainer

@@ -42,8 +42,10 @@ public:
                            QString button1, QString button2, QString button3, bool modal,
                            Qt::WindowFlags flags, QDialog **box, QString details, bool centre);
 
-    /// Moves a dialog to the middle of its parent's window, or of the screen if it has none; it is
-    /// kept on the screen.
+    /// Moves a dialog to the middle of its parent's window, or of the screen if it has none. Its
+    /// whole frame, title bar included, is kept on the screen; if it is larger than the screen, its
+    /// upper left corner is. A dialog that was shown but not seen yet is placed again when it is
+    /// first seen, since the window manager has not told the size of its frame before.
     static void MoveCentre(QDialog *dialog);
 
     /// Measures a text, one line, in the application's font. \a height takes the width of the text

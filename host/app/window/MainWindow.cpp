@@ -153,17 +153,9 @@ void MainWindow::showEvent(QShowEvent *event)
         return;
     // In that half of the screen where reading begins, so that the diagnostics window has the
     // other.
-    QRect half = screen()->availableGeometry();
-    half.setWidth(half.width() / 2);
-    if (isRightToLeft())
-        half.translate(half.width(), 0);
-    QRect frame = frameGeometry();
-    frame.moveCenter(half.center());
-    if (isRightToLeft())
-        frame.moveLeft(half.left());
-    else
-        frame.moveRight(half.right());
-    move(frame.topLeft());
+    const QRect available = screen()->availableGeometry();
+    const QPoint aside((isRightToLeft() ? width() : -width()) / 2, 0);
+    HostCore::placeFrame(this, available, available.center() + aside);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -105,6 +105,8 @@ void HostCore::applyLook(QApplication &application)
     font.setStyleHint(QFont::SansSerif);
     // In pixels, because the windows have fixed sizes in pixels.
     font.setPixelSize(12);
+    // Else the style's measures follow the desktop's resolution, and the tabs do not fit.
+    QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     application.setFont(font);
     application.setStyle(new HostStyle);
 }

@@ -11,6 +11,7 @@
 
 #include <QPushButton>
 #include <QScreen>
+#include <QToolButton>
 #include <QWindow>
 #include <QtTest>
 
@@ -43,13 +44,14 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("modem");
-        for (const char *language : {"en", "de", "ar"}) {
+        const QString translations = DIAG_BINARY_DIR "/" HOST_DATA_DIR "/translations";
+        for (const QString &language : HostCore::languages(translations)) {
             for (const char *modem : {"wcdma", "cdma"})
-                QTest::addRow("%s %s", language, modem) << language << modem;
+                QTest::addRow("%s %s", qPrintable(language), modem) << language << modem;
         }
     }
 
-    /// Both windows, title bars included, wherever the host's window was moved before.
+    /// Both windows, title bars and tabs included, wherever the host's window was moved before.
     void whole()
     {
         QFETCH(QString, language);
@@ -57,6 +59,7 @@ private Q_SLOTS:
         const TestSupport::LogCapture log;
         const QDir built(DIAG_BINARY_DIR);
         HostCore::setPluginLibraryPath(built.filePath(HOST_LIBRARY_DIR));
+        QCoreApplication::setAttribute(Qt::AA_Use96Dpi, false); // QTEST_MAIN sets it
         HostCore::applyLook(*qApp);
         TestSupport::setLanguage(language.toLatin1());
         TestSupport::attachModem(modem.toLatin1());
@@ -74,7 +77,11 @@ private Q_SLOTS:
             window.move(corner);
             settleMoves();
             window.findChild<QPushButton *>("MainWindow_pushButtonDiagnostics")->click();
-            verifyWhole(TestSupport::diagnosticsWindow());
+            const QWidget *const dialog = TestSupport::diagnosticsWindow();
+            verifyWhole(dialog);
+            QCOMPARE(TestSupport::clipped(dialog), QStringList());
+            for (const QToolButton *arrow : dialog->findChildren<QToolButton *>())
+                QVERIFY(!arrow->isVisible()); // all tabs fit
             diagnostics.close();
         }
     }

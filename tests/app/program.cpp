@@ -92,9 +92,9 @@ private Q_SLOTS:
                                        "XDG_RUNTIME_DIR=" + folder.path(), "HOME=" + folder.path(),
                                        "TMPDIR=" + folder.path()};
         run("env",
-            QStringList{"-uDISPLAY", "-uWAYLAND_DISPLAY", "-uXDG_CONFIG_HOME", "-uXDG_DATA_HOME",
-                        fields.at(1)} +
-                variables + QStringList{HOST_PROGRAM} + fields.at(2).split(' '),
+            QStringList{"-uDISPLAY", "-uWAYLAND_DISPLAY", "-uXDG_CONFIG_HOME", "-uXDG_DATA_HOME"} +
+                fields.at(1).split(' ') + variables + QStringList{HOST_PROGRAM} +
+                fields.at(2).split(' '),
             {"0", output, ""});
         QDirIterator left(folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         int pictures = 0;

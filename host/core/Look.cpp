@@ -94,6 +94,26 @@ private:
     QObject *const m_clippedTexts;
 };
 
+/// Keeps the application's font. Some platform themes set another one while the program runs.
+class FontKeeper : public QObject
+{
+public:
+    FontKeeper(QApplication *application, const QFont &font) : QObject(application), m_font(font)
+    {
+        application->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::ApplicationFontChange && QApplication::font() != m_font)
+            QApplication::setFont(m_font);
+        return false;
+    }
+
+private:
+    const QFont m_font;
+};
+
 } // namespace
 
 void HostCore::applyLook(QApplication &application)
@@ -108,5 +128,6 @@ void HostCore::applyLook(QApplication &application)
     // Else the style's measures follow the desktop's resolution, and the tabs do not fit.
     QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
     application.setFont(font);
+    new FontKeeper(&application, font);
     application.setStyle(new HostStyle);
 }

@@ -280,6 +280,8 @@ private Q_SLOTS:
         QCOMPARE(tabs->currentIndex(), 2);
         QVERIFY(tabs->tabBar()->sizeHint().width() <= tabs->width());
         QCOMPARE(clipped(reader.window()), QStringList());
+        QApplication::setFont(QFont("DejaVu Serif", 20)); // as a platform theme does
+        QCOMPARE(clipped(reader.window()), QStringList());
     }
 };
 

@@ -23,18 +23,20 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
+        // A label that is being deleted is sent other events when it is no QLabel any more.
+        if (event->type() != QEvent::Paint && event->type() != QEvent::ToolTip)
+            return false;
         auto *const label = static_cast<QLabel *>(watched);
-        if (event->type() == QEvent::Paint && isClipped(label)) {
+        if (!isClipped(label))
+            return false;
+        if (event->type() == QEvent::Paint) {
             watched->event(event);
             mark(label);
-            return true;
-        }
-        if (event->type() == QEvent::ToolTip && isClipped(label)) {
+        } else {
             QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
                                QLatin1String("<p>") + label->text().toHtmlEscaped(), label);
-            return true;
         }
-        return false;
+        return true;
     }
 
 private:

@@ -94,6 +94,6 @@ set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The windows' fixed sizes are made for this font. Qt's packages recommend its translations.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS fonts-dejavu-core)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS fonts-wqy-microhei) # for Chinese
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-wqy-microhei, qtwayland5") # for Chinese, and for Wayland
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS modemmanager)
 include(CPack)

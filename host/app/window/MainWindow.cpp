@@ -83,7 +83,6 @@ MainWindow::MainWindow(const ModemSource &modem, Diagnostics &diagnostics)
     name->setText(modem.isSimulated() ? tr("%1 (simulated)").arg(modem.name()) : modem.name());
 
     auto *const form = new QFormLayout;
-    form->setVerticalSpacing(6);
     form->addRow(tr("Modem"), name);
     form->addRow(tr("Description"), m_description);
     form->addRow(tr("State"), m_state);

@@ -123,12 +123,14 @@ int Commands::show(const ModemSource &modem, const Options &options)
 {
     const QString configuration = HostFiles::path(HostFiles::Configuration);
     QString libraries = HostFiles::path(HostFiles::Libraries);
-    const bool isRefused = ConfigFile::isRefused(configuration);
-    if (isRefused || !QFileInfo::exists(configuration))
-        std::fprintf(stderr, "diagnosis-host: %s: %s\n", qUtf8Printable(configuration),
-                     qUtf8Printable(ConfigFile::description(configuration)));
-    if (isRefused)
+    const QString problem = ConfigFile::problem(configuration);
+    if (!problem.isEmpty()) {
+        const QString target = QFileInfo(configuration).symLinkTarget();
+        std::fprintf(stderr, "diagnosis-host: %s: %s\n",
+                     qUtf8Printable(target.isEmpty() ? configuration : target),
+                     qUtf8Printable(problem));
         libraries += QStringLiteral("/none"); // where the plug-in finds no configuration
+    }
     HostCore::setPluginLibraryPath(libraries);
     const HostPlugins hostPlugins;
     PluginLoader plugin(HostFiles::path(HostFiles::Plugin));

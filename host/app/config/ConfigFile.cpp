@@ -23,6 +23,17 @@ QString refusal(const QString &fileName, qint64 largest)
     return QString();
 }
 
+/// As ConfigFile::problem(); if there is none, with the content.
+QString problemOf(const QString &fileName, QByteArray *content)
+{
+    if (!QFileInfo::exists(fileName))
+        return QStringLiteral("missing");
+    QString error;
+    if (!ConfigFile::read(fileName, LargestForPlugin, content, &error))
+        return QStringLiteral("cannot be read: ") + error;
+    return QString();
+}
+
 } // namespace
 
 bool ConfigFile::read(const QString &fileName, qint64 largest, QByteArray *content, QString *error)
@@ -40,21 +51,18 @@ bool ConfigFile::read(const QString &fileName, qint64 largest, QByteArray *conte
     return false;
 }
 
-bool ConfigFile::isRefused(const QString &fileName)
+QString ConfigFile::problem(const QString &fileName)
 {
-    return !refusal(fileName, LargestForPlugin).isEmpty();
+    QByteArray content;
+    return problemOf(fileName, &content);
 }
 
 QString ConfigFile::description(const QString &fileName)
 {
-    const QFileInfo file(fileName);
-    if (!file.exists())
-        return QStringLiteral("missing") +
-               (file.isSymLink() ? QLatin1String(": ") + file.symLinkTarget() : QString());
     QByteArray content;
-    QString error;
-    if (!read(fileName, LargestForPlugin, &content, &error))
-        return QStringLiteral("cannot be read: ") + error;
+    const QString problem = problemOf(fileName, &content);
+    if (!problem.isEmpty())
+        return problem;
     const QByteArray sum = QCryptographicHash::hash(content, QCryptographicHash::Sha256);
     QString description = QStringLiteral("SHA-256 ") + QLatin1String(sum.toHex());
     QXmlStreamReader reader(content);

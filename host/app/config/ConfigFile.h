@@ -12,12 +12,12 @@ namespace ConfigFile {
 /// content. Returns false, with the reason in *\a error, if the file cannot be read.
 bool read(const QString &fileName, qint64 largest, QByteArray *content, QString *error);
 
-/// Returns true if there is something with this name that the host does not let the plug-in open:
-/// what is not a regular file, or larger than 16 MB.
-bool isRefused(const QString &fileName);
+/// Why the host does not let the plug-in open a configuration: it is missing, it is no regular file,
+/// it is larger than 16 MB, or it cannot be read. Empty if the plug-in may open it.
+QString problem(const QString &fileName);
 
 /// What a report's head says of a configuration, which has no version of its own: its sum, and
-/// where it is broken; or why it cannot be read.
+/// where it is broken; or its problem.
 QString description(const QString &fileName);
 
 } // namespace ConfigFile

@@ -13,7 +13,8 @@ namespace {
 
 const int EndingNumbers[] = {SIGHUP, SIGINT, SIGTERM};
 
-/// A handler may not call Qt. It adds one to this counter, which the event loop waits for.
+/// A handler may not call Qt. It adds one to this counter, which the event loop waits for. Nothing
+/// takes it away, so a signal that comes before the event loop runs counts, too.
 int s_counter = -1;
 
 extern "C" void note(int)
@@ -29,13 +30,17 @@ EndingSignals::EndingSignals()
     : m_notifier(s_counter = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), QSocketNotifier::Read)
 {
     QObject::connect(&m_notifier, &QSocketNotifier::activated, &QCoreApplication::quit);
-    for (const int signal : EndingNumbers)
-        std::signal(signal, note);
+    for (const int signal : EndingNumbers) {
+        if (std::signal(signal, note) == SIG_IGN)
+            std::signal(signal, SIG_IGN);
+    }
 }
 
 EndingSignals::~EndingSignals()
 {
-    for (const int signal : EndingNumbers)
-        std::signal(signal, SIG_DFL);
+    for (const int signal : EndingNumbers) {
+        if (std::signal(signal, SIG_DFL) == SIG_IGN)
+            std::signal(signal, SIG_IGN);
+    }
     close(s_counter);
 }

@@ -162,10 +162,16 @@ private Q_SLOTS:
         QFETCH(int, number);
         QProcess process;
         process.setProcessChannelMode(QProcess::MergedChannels);
-        process.start(HOST_PROGRAM, {"--modem", "wcdma", "--open", "--log", "-"});
+        // As nohup does, and a shell for a program in the background.
+        const int ignored = number == SIGINT ? SIGHUP : SIGINT;
+        process.start("sh", {"-c", QString("trap '' %1; exec \"$0\" \"$@\"").arg(ignored),
+                             HOST_PROGRAM, "--modem", "wcdma", "--open", "--log", "-"});
         QByteArray log;
         while (!log.contains("Creation of dialog is successful") && process.waitForReadyRead())
             log += process.readAll();
+        QVERIFY2(log.contains("Creation of dialog is successful"), log);
+        QCOMPARE(kill(pid_t(process.processId()), ignored), 0);
+        QVERIFY(!process.waitForFinished(100));
         QCOMPARE(kill(pid_t(process.processId()), number), 0);
         QVERIFY(process.waitForFinished(20000));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);

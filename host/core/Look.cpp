@@ -13,9 +13,9 @@
 
 namespace {
 
-/// Marks the labels that wrap their text but cannot show all of it: one word is wider than the
-/// label, or there are more lines than room. The mark lies upon the end of the text, and a tool tip
-/// tells the whole text.
+/// Marks the labels that cannot show all of their text: a word is wider than the label, or there
+/// are more lines than room. The mark lies upon the end of that line, and a tool tip shows the
+/// whole text.
 class ClippedTexts : public QObject
 {
 public:
@@ -23,15 +23,16 @@ public:
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        // A label that is being deleted is sent other events when it is no QLabel any more.
+        // While a label is deleted it gets other events, when it is only a QWidget.
         if (event->type() != QEvent::Paint && event->type() != QEvent::ToolTip)
             return false;
         auto *const label = static_cast<QLabel *>(watched);
-        if (!isClipped(label))
+        const int line = clippedLine(label);
+        if (line < 0)
             return false;
         if (event->type() == QEvent::Paint) {
             watched->event(event);
-            mark(label);
+            mark(label, line);
         } else {
             QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(),
                                QLatin1String("<p>") + label->text().toHtmlEscaped(), label);
@@ -40,22 +41,29 @@ public:
     }
 
 private:
-    static bool isClipped(const QLabel *label)
+    /// The top of the line that is cut off; -1 if none is.
+    static int clippedLine(const QLabel *label)
     {
-        return label->wordWrap() &&
-               label->fontMetrics().horizontalAdvance(label->text()) > label->width() &&
-               (label->minimumSizeHint().width() > label->width() ||
-                label->heightForWidth(label->width()) > label->height());
+        const QFontMetrics metrics = label->fontMetrics();
+        if (metrics.horizontalAdvance(label->text()) <= label->width())
+            return -1;
+        const int missing = label->heightForWidth(label->width()) - label->height();
+        if (missing > 0)
+            return label->height() - metrics.height();
+        const int above =
+            label->wordWrap() ? -missing / 2 : (label->height() - metrics.height()) / 2;
+        return label->minimumSizeHint().width() > label->width() ? above : -1;
     }
 
-    static void mark(QLabel *label)
+    static void mark(QLabel *label, int line)
     {
         const QString text(QChar(0x2026)); // an ellipsis
-        QRect box = label->rect();
-        box.setLeft(box.right() - label->fontMetrics().horizontalAdvance(text) - 3);
+        const QFontMetrics metrics = label->fontMetrics();
+        const int width = metrics.horizontalAdvance(text) + 4;
+        const QRect box(label->width() - width, line, width, metrics.height());
         QPainter painter(label);
-        painter.fillRect(box, label->palette().highlight());
-        painter.setPen(label->palette().highlightedText().color());
+        painter.fillRect(box, label->palette().windowText());
+        painter.setPen(label->palette().window().color());
         painter.drawText(box, Qt::AlignCenter, text);
     }
 };

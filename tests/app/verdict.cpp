@@ -243,6 +243,19 @@ private Q_SLOTS:
         QVERIFY(!DiagnosticsReader().window());
     }
 
+    /// Where a label is marked, at the end of its line.
+    static QString mark(QLabel *label)
+    {
+        const QImage image = label->grab().toImage();
+        const auto isMarked = [&](int y) {
+            return image.pixelColor(image.width() - 1, y) ==
+                   label->palette().color(QPalette::WindowText);
+        };
+        return isMarked(image.height() / 2 - 5) ? "first line"
+               : isMarked(image.height() - 2)   ? "last line"
+                                                : "none";
+    }
+
     /// What wraps has room on the longest page. A word that is too long for the page is marked, and
     /// its tool tip shows it whole.
     void longValues()
@@ -268,18 +281,23 @@ private Q_SLOTS:
             auto *const value =
                 reader.window()->findChild<QLabel *>("DiagnosticsUIPlugin_labelAPNValue");
             QCOMPARE(value->text(), apn);
-            const auto markedAt = [value](int x) {
-                return value->grab().toImage().pixelColor(x, 1) ==
-                       value->palette().color(QPalette::Highlight);
-            };
-            QVERIFY(markedAt(value->width() - 2) && !markedAt(2));
+            QCOMPARE(mark(value), "first line");
             QHelpEvent help(QEvent::ToolTip, QPoint(), QPoint());
             QCoreApplication::sendEvent(value, &help);
             QVERIFY(QToolTip::text().contains(apn));
+            value->setText(QString("word ").repeated(1000));
+            settle();
+            QCOMPARE(mark(value), "last line");
             value->setText("short");
-            QVERIFY(!markedAt(value->width() - 2));
+            QCOMPARE(mark(value), "none");
             diagnostics.close();
         }
+        attachModem("cdma");
+        setValues("device/firmwareVersion=" + apn.left(52));
+        Diagnostics diagnostics(m_modem, plugin.loader, QString(), "en");
+        QVERIFY(diagnostics.open());
+        for (auto *value : DiagnosticsReader().window()->findChildren<QLabel *>())
+            QCOMPARE(mark(value), value->text().startsWith("mmm") ? "first line" : "none");
     }
 };
 

@@ -12,7 +12,8 @@ function(install_compressed folder name)
     install(FILES ${CMAKE_BINARY_DIR}/${folder}/${name}.gz DESTINATION ${folder})
 endfunction()
 
-# The configuration is the administrator's: in /etc, where dpkg keeps what was changed.
+# The configuration is the administrator's: in /etc, where dpkg keeps what was changed. Only variables named
+# CPACK_... reach the script.
 set(CPACK_CONFIGURATION etc/diagnosis-host/DiagnosisConfig.xml)
 set(CPACK_CONFIGURATION_LINK usr/${DIAG_PLUGIN_DIR}/DiagnosisConfig.xml)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/package/configuration.cmake)
@@ -40,7 +41,9 @@ install_compressed(${documents} changelog)
 string(TIMESTAMP today "%Y-%m-%d" UTC)
 file(STRINGS CHANGELOG.md headings REGEX "^## ")
 foreach(heading IN LISTS headings)
-    string(REGEX MATCH "^## ([0-9.]+) \\((.*)\\)" heading "${heading}")
+    if(NOT heading MATCHES "^## ([0-9.]+) \\((.*)\\)")
+        message(FATAL_ERROR "CHANGELOG.md: no version and date in \"${heading}\"")
+    endif()
     set(version ${CMAKE_MATCH_1})
     string(REPLACE unreleased ${today} day "${CMAKE_MATCH_2}")
     execute_process(COMMAND date -uR -d ${day} OUTPUT_VARIABLE date COMMAND_ERROR_IS_FATAL ANY)
@@ -57,13 +60,15 @@ file(WRITE ${CMAKE_BINARY_DIR}/${documents}/changelog.Debian "${debian_changelog
 install_compressed(${documents} changelog.Debian)
 install(FILES LICENSE DESTINATION ${documents} RENAME copyright)
 
-# The pages lie as in the sources, so that their links work, but for those to sources.
+# The pages lie as in the sources, so that their links work, but for those to sources and to LICENSE.
 install(FILES README.md DESTINATION ${documents})
 install(DIRECTORY config docs examples DESTINATION ${documents})
 install(FILES host/modems/README.md DESTINATION ${documents}/host/modems)
 
 # The AppStream metadata, with the names of the desktop entry.
-file(STRINGS host/app/desktop/diagnosis-host.desktop lines ENCODING UTF-8 REGEX "^(Name|Comment)")
+set(entry ${CMAKE_SOURCE_DIR}/host/app/desktop/diagnosis-host.desktop)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${entry})
+file(STRINGS ${entry} lines ENCODING UTF-8 REGEX "^(Name|Comment)")
 foreach(line IN LISTS lines)
     string(REGEX MATCH "^([A-Za-z]+)(\\[(.*)\\])?=(.*)" line "${line}")
     set(text "${CMAKE_MATCH_4}")

@@ -68,8 +68,8 @@ public:
     {
         auto *const window = static_cast<QWindow *>(object);
         if (event->type() == QEvent::Expose && window->isExposed()) {
-            // Not QWidget::move(), which does nothing if the window is there already: the window
-            // manager may have an earlier move still before it.
+            // QWidget::move() would do nothing if Qt has the window there already, but an earlier
+            // move may still be on its way to the window manager.
             window->setFramePosition(m_place.topLeft(window->frameGeometry()));
             window->removeEventFilter(this);
             deleteLater();

@@ -55,10 +55,8 @@ CORE_EXPORT void applyLook(QApplication &application);
 /// Sets whether dialogs that are made from now on stay off the screen, because they are only read.
 CORE_EXPORT void setDialogsUnseen(bool unseen);
 
-/// Moves the middle of a window's frame to \a centre, and the whole frame, title bar included, onto
-/// \a screen. If the frame is larger, its upper left corner is on the screen. A window that was
-/// shown but not seen yet is placed again when it is first seen: before that the window manager may
-/// not have told the size of the frame.
+/// Places a window as CommonUtils::MoveCentre() does, with the middle of its frame at \a centre,
+/// but for what would not be on \a screen.
 CORE_EXPORT void placeFrame(QWidget *window, const QRect &screen, const QPoint &centre);
 
 /// The host's container. It forgets a plug-in that is deleted.

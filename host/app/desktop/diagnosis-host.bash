@@ -4,7 +4,7 @@
 # Completion for bash. The program itself tells its options, and the values that it knows.
 
 _diagnosis_host() {
-    local program=$1 word=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[COMP_CWORD - 1]} words
+    local program=${1/#\~/$HOME} word=${COMP_WORDS[COMP_CWORD]} option=${COMP_WORDS[COMP_CWORD - 1]} words
     # In --option=value the sign is a word of its own.
     [ "$word" = = ] && word=
     [ "$option" = = ] && option=${COMP_WORDS[COMP_CWORD - 2]}

@@ -87,7 +87,7 @@ private Q_SLOTS:
     {
         QFETCH(QStringList, fields);
         const QTemporaryDir folder;
-        const QString output = QString(fields.at(3)).replace("@FOLDER@", folder.path());
+        fields.replaceInStrings("@FOLDER@", folder.path());
         const QStringList variables = {"XDG_CACHE_HOME=/dev/null",
                                        "XDG_RUNTIME_DIR=" + folder.path(), "HOME=" + folder.path(),
                                        "TMPDIR=" + folder.path()};
@@ -95,12 +95,12 @@ private Q_SLOTS:
             QStringList{"-uDISPLAY", "-uWAYLAND_DISPLAY", "-uXDG_CONFIG_HOME", "-uXDG_DATA_HOME"} +
                 fields.at(1).split(' ') + variables + QStringList{HOST_PROGRAM} +
                 fields.at(2).split(' '),
-            {"0", output, ""});
+            fields.mid(3));
         QDirIterator left(folder.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         int pictures = 0;
         for (; left.hasNext(); ++pictures)
             QCOMPARE(QImage(left.next()).size(), QSize(460, 426));
-        QCOMPARE(pictures, fields.at(4).toInt());
+        QCOMPARE(pictures, fields.at(6).toInt());
     }
 
     /// If the disk is full, the earlier report stays as it was, and there is no other file. Else

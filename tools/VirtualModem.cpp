@@ -32,12 +32,18 @@ QString VirtualModem::start()
 void VirtualModem::startService()
 {
     m_daemon.stop();
-    m_modem = std::make_unique<AtModem>();
+    m_modems.clear();
+    startModem();
     m_daemon.start(program, {"--test-session", "--test-enable", "--test-no-udev",
                              "--test-no-suspend-resume", "--test-no-qrtr", "--no-auto-scan"});
 }
 
-QVariant VirtualModem::ask(const char *object, const char *interface, const char *method,
+void VirtualModem::startModem()
+{
+    m_modems.push_back(std::make_unique<AtModem>());
+}
+
+QVariant VirtualModem::ask(const QString &object, const char *interface, const char *method,
                            const QVariantList &arguments)
 {
     QDBusMessage message =
@@ -52,13 +58,15 @@ QVariant VirtualModem::ask(const char *object, const char *interface, const char
 
 bool VirtualModem::add(bool enabled)
 {
+    const QString number = QString::number(m_modems.size() - 1);
     const bool added = QTest::qWaitFor([&] {
         return ask("", "org.freedesktop.ModemManager1.Test", "SetProfile",
-                   {"virtual", "generic", QStringList{m_modem->port()}})
+                   {"virtual" + number, "generic", QStringList{modem().port()}})
             .isValid();
     });
     const auto enable = [&] {
-        return ask("/Modem/0", "org.freedesktop.ModemManager1.Modem", "Enable", {true}).isValid();
+        return ask("/Modem/" + number, "org.freedesktop.ModemManager1.Modem", "Enable", {true})
+            .isValid();
     };
     return added && (!enabled || QTest::qWaitFor(enable, longTime));
 }

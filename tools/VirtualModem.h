@@ -10,8 +10,9 @@
 #include <QVariant>
 
 #include <memory>
+#include <vector>
 
-/// The unmodified service on a private bus, with a virtual modem.
+/// The unmodified service on a private bus, with virtual modems.
 class VirtualModem
 {
 public:
@@ -20,20 +21,23 @@ public:
     QString start();
     /// Starts the service anew, and a modem with the usual answers that it doesn't know yet.
     void startService();
-    /// Shows the modem to the service, which reads it, and lets it be used: it registers.
+    /// Starts another modem with the usual answers.
+    void startModem();
+    /// Shows the last modem to the service, which reads it, and lets it be used: it registers.
     bool add(bool enabled = true);
 
-    AtModem &modem() { return *m_modem; }
+    /// The one that was started last.
+    AtModem &modem() { return *m_modems.back(); }
     Program &daemon() { return m_daemon; }
 
 private:
     /// Returns the first argument of the service's answer, true if it has none, invalid for an
     /// error.
-    QVariant ask(const char *object, const char *interface, const char *method,
+    QVariant ask(const QString &object, const char *interface, const char *method,
                  const QVariantList &arguments);
 
     PrivateBus m_bus;
-    std::unique_ptr<AtModem> m_modem;
+    std::vector<std::unique_ptr<AtModem>> m_modems;
     Program m_daemon; // ends first
 };
 

@@ -5,6 +5,7 @@
 
 #include "SdkCalls.h"
 #include "SdkControl.h"
+#include "modem/Verdict.h"
 #include "modemmanager/ModemService.h"
 
 #include <QRegularExpression>
@@ -53,6 +54,7 @@ static Pairs readSdk()
                               .arg(condition.state)
                               .arg(condition.failedReason)
                               .arg(condition.powerState);
+    values["verdict"] = Verdict(ModemState::read(0)).text;
     for (const ModemService::Detail &detail : ModemService::details())
         values[QString::fromStdString(detail.group + ' ' + detail.name)] =
             QString::fromStdString(detail.value);

@@ -22,9 +22,9 @@ using Pairs = QMap<QString, QString>;
 Pairs pairs(const QString &text);
 
 /// Waits until the SDK says what pairs tell. Besides SdkCalls::answers() they name: "all", the
-/// different ones of these answers; "status"; "condition"; the details by group and name; the keys
-/// of what the host alone reads; and "events", what was taken. The test fails after 10 s, and after
-/// 1 s once an expectation has failed.
+/// different ones of these answers; "status"; "condition"; "verdict", its text; the details by
+/// group and name; the keys of what the host alone reads; and "events", what was taken. The test
+/// fails after 10 s, and after 1 s once an expectation has failed.
 void expect(const QString &expected);
 
 using Commands = std::map<QString, std::function<void(const QString &)>>;

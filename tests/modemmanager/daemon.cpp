@@ -58,6 +58,7 @@ void ModemManagerDaemon::scripts()
         fields.replaceInStrings("HOME", m_home).mid(1),
         {
             {"service", [&](const QString &) { m_virtual.startService(); }},
+            {"another", [&](const QString &) { m_virtual.startModem(); }},
             {"add", [&](const QString &) { QVERIFY(m_virtual.add()); }},
             {"present", [&](const QString &) { QVERIFY(ModemService::isPresent(5000)); }},
             {"answer", [&](const QString &text) { m_virtual.modem().set(text.toLatin1()); }},

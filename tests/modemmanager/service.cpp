@@ -75,6 +75,8 @@ public:
             answer << m_objects;
             if (const auto action = std::exchange(afterReading, nullptr))
                 action();
+        } else if (message.member() == "GetLocation") {
+            answer << m_objects.value("location").toMap();
         } else if (message.member() == "GetAll") {
             answer << m_objects[message.path()];
         } else if (!message.member().startsWith("Get")) {
@@ -91,7 +93,7 @@ private:
             QDBusMessage::createSignal(servicePath, "org.freedesktop.DBus." + interface, signal));
     }
 
-    QVariantMap m_objects; ///< by path; those of a modem by interface
+    QVariantMap m_objects; ///< by path; those of a modem by interface; and the location
     QDBusConnection m_bus;
 };
 
@@ -104,16 +106,20 @@ class ModemManagerService : public QObject
 
 private slots:
     void initTestCase();
-    void cleanup() { ModemService::detach(); }
+    void cleanup();
     void scripts_data() { TestSupport::addRows(TEST_SOURCE_DIR "/service.txt", "scripts"); }
     void scripts();
     void rateOfReadings();
 
 private:
+    void stopService();
     void startService();
 
     PrivateBus m_bus;
     std::unique_ptr<StandIn> m_service;
+    const QTemporaryDir m_folder; ///< the program's
+    QProcess m_program;
+    QByteArray m_said; ///< by the program
 };
 
 void ModemManagerService::initTestCase()
@@ -124,10 +130,22 @@ void ModemManagerService::initTestCase()
     serviceTiming() = shortTiming;
 }
 
-void ModemManagerService::startService()
+void ModemManagerService::cleanup()
+{
+    ModemService::detach();
+    m_program.kill();
+    m_program.waitForFinished();
+}
+
+void ModemManagerService::stopService()
 {
     m_service.reset();
     QDBusConnection::disconnectFromBus("stand-in");
+}
+
+void ModemManagerService::startService()
+{
+    stopService();
     QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SystemBus, "stand-in");
     m_service = std::make_unique<StandIn>(bus);
     QVERIFY(bus.registerService(service));
@@ -136,23 +154,50 @@ void ModemManagerService::startService()
 void ModemManagerService::scripts()
 {
     QFETCH(QStringList, fields);
-    perform(
-        fields.mid(1),
-        {
-            {"service", [&](const QString &) { startService(); }},
-            {"stop-bus", [&](const QString &) { m_bus.stop(); }},
-            {"start-bus", [&](const QString &) { QCOMPARE(m_bus.start(), QString()); }},
-            {"show",
-             [&](const QString &argument) {
-                 const QStringList a = argument.split(' ');
-                 m_service->showModem(a.at(0).toInt(), a.at(1), a.at(2).toInt(),
-                                      a.value(3).toInt());
-             }},
-            {"silent", [&](const QString &path) { m_service->silent = path; }},
-            {"remove", [&](const QString &number) { m_service->removeModem(number.toInt()); }},
-            {"have", [&](const QString &section) { m_service->have(section); }},
-            {"asked", [&](const QString &calls) { QCOMPARE(m_service->calls.join(", "), calls); }},
-        });
+    perform(fields.mid(1),
+            {
+                {"service", [&](const QString &) { startService(); }},
+                {"stop-bus", [&](const QString &) { m_bus.stop(); }},
+                {"start-bus", [&](const QString &) { QCOMPARE(m_bus.start(), QString()); }},
+                {"show",
+                 [&](const QString &argument) {
+                     const QStringList a = argument.split(' ');
+                     m_service->showModem(a.at(0).toInt(), a.at(1), a.at(2).toInt(),
+                                          a.value(3).toInt());
+                 }},
+                {"silent", [&](const QString &path) { m_service->silent = path; }},
+                {"remove", [&](const QString &number) { m_service->removeModem(number.toInt()); }},
+                {"have", [&](const QString &section) { m_service->have(section); }},
+                {"asked",
+                 [&](const QString &calls) { QTRY_COMPARE(m_service->calls.join(", "), calls); }},
+                {"stop-service", [&](const QString &) { stopService(); }},
+                {"run",
+                 [&](const QString &arguments) {
+                     m_said.clear();
+                     m_program.setWorkingDirectory(m_folder.path());
+                     m_program.setProcessChannelMode(QProcess::MergedChannels);
+                     m_program.start(HOST_PROGRAM, arguments.split(' '));
+                 }},
+                {"said",
+                 [&](const QString &text) {
+                     QTRY_VERIFY2((m_said += m_program.readAll()).contains(text.toUtf8()), m_said);
+                 }},
+                {"terminate", [&](const QString &) { m_program.terminate(); }},
+                {"ended",
+                 [&](const QString &code) {
+                     QTRY_COMPARE_WITH_TIMEOUT(m_program.state(), QProcess::NotRunning, 10000);
+                     QCOMPARE(m_program.exitStatus(), QProcess::NormalExit);
+                     QCOMPARE(m_program.exitCode(), code.toInt());
+                 }},
+                {"wrote",
+                 [&](const QString &text) {
+                     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList("report"));
+                     const QByteArray report = TestSupport::contentOf(m_folder.filePath("report"));
+                     QVERIFY2(report.contains(text.toUtf8()), report);
+                     QVERIFY2(report.contains("\n\nFailed functions\n") && report.endsWith('\n'),
+                              report);
+                 }},
+            });
 }
 
 void ModemManagerService::rateOfReadings()

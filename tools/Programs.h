@@ -31,6 +31,8 @@ public:
 
     /// Returns why there is no bus; empty if there is one.
     QString start();
+    /// The bus takes connections, but does not answer, until stop().
+    void hang() { m_daemon.signal(SIGSTOP); }
     void stop() { m_daemon.stop(); }
 
 private:

@@ -109,7 +109,9 @@ static long waits()
 void perform(const QStringList &steps, Commands commands)
 {
     commands["attach"] = [](const QString &index) { ModemService::attach(index.toInt()); };
-    commands["detach"] = [](const QString &) { ModemService::detach(); };
+    commands["detach"] = [](const QString &hangs) {
+        QCOMPARE(ModemService::detach(), hangs.isEmpty());
+    };
     commands["absent"] = [](const QString &) {
         QElapsedTimer timer;
         timer.start();

@@ -30,7 +30,8 @@ void expect(const QString &expected);
 using Commands = std::map<QString, std::function<void(const QString &)>>;
 
 /// Takes the steps of a script, each a command of these or the following, and its argument.
-///     attach INDEX | detach | absent | signal-read | pause MILLISECONDS
+///     attach INDEX | absent | signal-read | pause MILLISECONDS
+///     detach        or "detach hangs", if the bus does
 ///     events        starts to take events: the code, and the device status inside the callback
 ///     expect PAIRS  waits for them
 ///     still PAIRS   does not wait

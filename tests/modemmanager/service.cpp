@@ -106,6 +106,7 @@ class ModemManagerService : public QObject
 
 private slots:
     void initTestCase();
+    void init();
     void cleanup();
     void scripts_data() { TestSupport::addRows(TEST_SOURCE_DIR "/service.txt", "scripts"); }
     void scripts();
@@ -128,6 +129,13 @@ void ModemManagerService::initTestCase()
     if (!problem.isEmpty())
         QSKIP(qPrintable(problem));
     serviceTiming() = shortTiming;
+}
+
+void ModemManagerService::init()
+{
+    stopService();
+    m_bus.stop();
+    QCOMPARE(m_bus.start(), QString());
 }
 
 void ModemManagerService::cleanup()
@@ -157,6 +165,7 @@ void ModemManagerService::scripts()
     perform(fields.mid(1),
             {
                 {"service", [&](const QString &) { startService(); }},
+                {"hang-bus", [&](const QString &) { m_bus.hang(); }},
                 {"stop-bus", [&](const QString &) { m_bus.stop(); }},
                 {"start-bus", [&](const QString &) { QCOMPARE(m_bus.start(), QString()); }},
                 {"show",

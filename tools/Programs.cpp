@@ -3,6 +3,7 @@
 
 #include "Programs.h"
 
+#include <QDBusConnection>
 #include <QFile>
 #include <QTest>
 
@@ -32,7 +33,11 @@ QString PrivateBus::start()
     m_daemon.start("dbus-daemon",
                    {"--nofork", "--nopidfile", "--config-file=" TOOLS_DIR "/bus.conf",
                     "--address=unix:path=" + m_socket});
-    return QTest::qWaitFor([&] { return QFile::exists(m_socket); })
-               ? ""
-               : "dbus-daemon does not start (package dbus-daemon)";
+    // The socket is there before the daemon listens to it.
+    const bool answers = QTest::qWaitFor([] {
+        QDBusConnection::disconnectFromBus("trial");
+        return QDBusConnection::connectToBus(QDBusConnection::SystemBus, "trial").isConnected();
+    });
+    QDBusConnection::disconnectFromBus("trial");
+    return answers ? "" : "dbus-daemon does not start (package dbus-daemon)";
 }

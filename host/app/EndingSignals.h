@@ -7,8 +7,8 @@
 #include <QSocketNotifier>
 
 /// While it lives, SIGHUP, SIGINT and SIGTERM end the event loop, as if the last window was closed,
-/// so that the modem is detached. A signal that the program was started to ignore, as by nohup, stays
-/// ignored. There is one at a time, in the main thread.
+/// so that the modem is detached. A signal that the program was started to ignore, as by nohup,
+/// stays ignored. There is one at a time, in the main thread.
 class EndingSignals
 {
 public:

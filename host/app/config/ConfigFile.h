@@ -12,8 +12,8 @@ namespace ConfigFile {
 /// content. Returns false, with the reason in *\a error, if the file cannot be read.
 bool read(const QString &fileName, qint64 largest, QByteArray *content, QString *error);
 
-/// Why the host does not let the plug-in open a configuration: it is missing, it is no regular file,
-/// it is larger than 16 MB, or it cannot be read. Empty if the plug-in may open it.
+/// Why the host does not let the plug-in open a configuration: it is missing, it is no regular
+/// file, it is larger than 16 MB, or it cannot be read. Empty if the plug-in may open it.
 QString problem(const QString &fileName);
 
 /// What a report's head says of a configuration, which has no version of its own: its sum, and

@@ -83,7 +83,7 @@ int main()
               [&](bool product) { return run(product ? host : bare); });
     printLine("--report, from start to end", "ms", 1e3, 0, 100,
               [&](bool product) { return run(product ? report : bareToEnd); });
-    printLine("memory (PSS) of the filled window", "MB", 1, 1.15, 10,
+    printLine("memory (PSS) of the filled window", "MB", 1, 1.12, 10,
               [&](bool product) { return run(product ? host : bare, megabytes); });
     printLine("wake-ups in 10 s of the idle window", "", 1, 0, 2,
               [&](bool product) { return run(product ? host : bare, wakeUps); });

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The DiagnosisPlugin authors
 # SPDX-License-Identifier: MIT
 
-# The Debian package ("package" target or cpack): all that is installed, below /usr, but for
-# the configuration.
+# The Debian package ("package" target or cpack): all that is installed, below /usr, but for the
+# configuration.
 
 # install_compressed(folder name): compresses a file of the build tree without its time, so that packages
 # can be compared.

@@ -11,7 +11,7 @@
 
 namespace {
 
-const int EndingNumbers[] = {SIGHUP, SIGINT, SIGTERM};
+const int Handled[] = {SIGHUP, SIGINT, SIGTERM};
 
 /// A handler may not call Qt. It adds one to this counter, which the event loop waits for. Nothing
 /// takes it away, so a signal that comes before the event loop runs counts, too.
@@ -30,7 +30,7 @@ EndingSignals::EndingSignals()
     : m_notifier(s_counter = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), QSocketNotifier::Read)
 {
     QObject::connect(&m_notifier, &QSocketNotifier::activated, &QCoreApplication::quit);
-    for (const int signal : EndingNumbers) {
+    for (const int signal : Handled) {
         if (std::signal(signal, note) == SIG_IGN)
             std::signal(signal, SIG_IGN);
     }
@@ -38,7 +38,7 @@ EndingSignals::EndingSignals()
 
 EndingSignals::~EndingSignals()
 {
-    for (const int signal : EndingNumbers) {
+    for (const int signal : Handled) {
         if (std::signal(signal, SIG_DFL) == SIG_IGN)
             std::signal(signal, SIG_IGN);
     }

@@ -49,11 +49,9 @@ struct Kind
     Function remove;
 };
 
-#define FUNCTION(name)                                                                             \
-    Function                                                                                       \
-    {                                                                                              \
-        #name, &Sdk::name                                                                          \
-    }
+// clang-format off
+#define FUNCTION(name) {#name, &Sdk::name}
+// clang-format on
 const Kind kinds[] = {
     {FUNCTION(VELT_DevSrv_RegisterDevMgrCallback), FUNCTION(VELT_DevSrv_UnRegisterDevMgrCallback)},
     {FUNCTION(VELT_DevSrv_RegisterDevInitEventCallback),

@@ -60,34 +60,22 @@ private Q_SLOTS:
         QTest::addColumn<QString>("head");
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("check");
-        QTest::newRow("whole")
-            << "<veltdoc/>"
-            << "SHA-256 8b21044684fe3e1a7a4704538d2ea3e19f3d4290ac2311230ef06a86c65b9cf0\n"
-            << 7 << "1:1: ";
-        QTest::newRow("broken") << "<veltdoc>\n <tab"
-                                << ", broken at line 2, column 5\n"
-                                << 7 << "2:6: ";
-        QTest::newRow("empty") << ""
-                               << ", broken at line 1, column 0\n"
-                               << 7 << "1:1: ";
-        QTest::newRow("missing") << "missing"
-                                 << "missing\n"
-                                 << 8 << "No such file";
-        QTest::newRow("link to nothing") << "link /nonexistent"
-                                         << "missing\n"
-                                         << 8 << "No such file";
-        QTest::newRow("link to what fails") << "link /proc/self/mem"
-                                            << "cannot be read: Input/output error\n"
-                                            << 8 << "Input/output error";
-        QTest::newRow("pipe") << "pipe"
-                              << "cannot be read: not a regular file\n"
-                              << 8 << "not a regular file";
-        QTest::newRow("folder") << "folder"
-                                << "cannot be read: not a regular file\n"
-                                << 8 << "not a regular file";
-        QTest::newRow("large") << "large"
-                               << "cannot be read: larger than 16777216 bytes\n"
-                               << 8 << "larger than 262144 bytes";
+        // clang-format off
+        const struct { const char *name; const char *kind; const char *head; int code; const char *check; } rows[] = {
+            {"whole", "<veltdoc/>", "SHA-256 8b21044684fe3e1a7a4704538d2ea3e19f3d4290ac2311230ef06a86c65b9cf0", 7, "1:1: "},
+            {"broken", "<veltdoc>\n <tab", ", broken at line 2, column 5", 7, "2:6: "},
+            {"empty", "", ", broken at line 1, column 0", 7, "1:1: "},
+            {"missing", "missing", "missing", 8, "No such file"},
+            {"link to nothing", "link /nonexistent", "missing", 8, "No such file"},
+            {"link to what fails", "link /proc/self/mem", "cannot be read: Input/output error", 8, "Input/output error"},
+            {"pipe", "pipe", "cannot be read: not a regular file", 8, "not a regular file"},
+            {"folder", "folder", "cannot be read: not a regular file", 8, "not a regular file"},
+            {"large", "large", "cannot be read: larger than 16777216 bytes", 8, "larger than 262144 bytes"},
+        };
+        // clang-format on
+        for (const auto &row : rows)
+            QTest::newRow(row.name)
+                << QString(row.kind) << QString(row.head) << row.code << QString(row.check);
     }
 
     /// A report is written beside any configuration, and says what is wrong with it.
@@ -114,15 +102,14 @@ private Q_SLOTS:
         const Outcome report = run("\"$0\" --report --modem wcdma --language en", program);
         QCOMPARE(report.code, 0);
         const QString line = report.output.section("\n  Configuration: ", 1).section('\n', 0, 0);
-        QVERIFY2((line + '\n').endsWith(head), qPrintable(line));
+        QVERIFY2(line.endsWith(head), qPrintable(line));
         const Outcome checked = run("\"$0\" --language en --check-config '" + file + "'", program);
         QTEST(checked.code, "code");
-        // Without a configuration that can be read the host says why, and names what a link leads
-        // to.
+        // The host says why there is no configuration, and names what a link leads to.
         const bool isRead = line.startsWith("SHA-256");
         const QString named = kind.startsWith("link ") ? kind.mid(5) : file;
         const QString told = report.error.section("diagnosis-host: ", 1).section('\n', 0, 0);
-        QCOMPARE(told + '\n', isRead ? "\n" : named + ": " + head);
+        QCOMPARE(told, isRead ? QString() : named + ": " + head);
         QVERIFY2((checked.output + checked.error).contains(check), qPrintable(checked.error));
     }
 

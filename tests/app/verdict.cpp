@@ -57,6 +57,19 @@ class VerdictTest : public QObject
         return state;
     }
 
+    /// Where a label is marked, at the end of its line.
+    static QString mark(QLabel *label)
+    {
+        const QImage image = label->grab().toImage();
+        const auto isMarked = [&](int y) {
+            return image.pixelColor(image.width() - 1, y) ==
+                   label->palette().color(QPalette::WindowText);
+        };
+        return isMarked(image.height() / 2 - 5) ? "first line"
+               : isMarked(image.height() - 2)   ? "last line"
+                                                : "none";
+    }
+
     /// Loads the real plug-in, in English.
     struct RealPlugin
     {
@@ -241,19 +254,6 @@ private Q_SLOTS:
         QCOMPARE(clipped(&window).join(" "), QString());
         window.close();
         QVERIFY(!DiagnosticsReader().window());
-    }
-
-    /// Where a label is marked, at the end of its line.
-    static QString mark(QLabel *label)
-    {
-        const QImage image = label->grab().toImage();
-        const auto isMarked = [&](int y) {
-            return image.pixelColor(image.width() - 1, y) ==
-                   label->palette().color(QPalette::WindowText);
-        };
-        return isMarked(image.height() / 2 - 5) ? "first line"
-               : isMarked(image.height() - 2)   ? "last line"
-                                                : "none";
     }
 
     /// What wraps has room on the longest page. A word that is too long for the page is marked, and

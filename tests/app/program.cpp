@@ -149,6 +149,18 @@ private Q_SLOTS:
         close(listener);
     }
 
+    /// Without X11 Qt is asked for Wayland first, which it lacks or does not reach here.
+    void wayland()
+    {
+        QProcess process;
+        process.start("env", {"-uDISPLAY", "-uQT_QPA_PLATFORM", "WAYLAND_DISPLAY=none",
+                              HOST_PROGRAM, "--modem", "wcdma", "--print"});
+        QVERIFY(process.waitForFinished(20000));
+        QCOMPARE(process.exitCode(), 0);
+        const QByteArray errors = process.readAllStandardError();
+        QVERIFY2(errors.contains("plugin \"wayland\"") || errors.contains("wl_display"), errors);
+    }
+
     /// The program detaches the modem and ends, as if its window was closed.
     void signal_data()
     {
